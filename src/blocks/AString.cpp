@@ -1,0 +1,231 @@
+#include "blocks/AString.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <limits>
+
+namespace {
+
+constexpr char16_t k_HighSurrogate = 0xD800;
+constexpr char16_t k_LowSurrogate = 0xDC00;
+constexpr uint32_t k_FirstSupplementary = 0x10000;
+
+bool IsHighSurrogate(char16_t unit) { return (unit & 0xFC00) == k_HighSurrogate; }
+bool IsLowSurrogate(char16_t unit) { return (unit & 0xFC00) == k_LowSurrogate; }
+bool IsEscapedByte(char16_t unit) { return unit >= k_LowSurrogate + 0x80 && unit <= k_LowSurrogate + 0xFF; }
+
+void AppendCodePoint(std::u16string& units, uint32_t code) {
+    if (code < k_FirstSupplementary) {
+        units += static_cast<char16_t>(code);
+        return;
+    }
+    code -= k_FirstSupplementary;
+    units += static_cast<char16_t>(k_HighSurrogate + (code >> 10));
+    units += static_cast<char16_t>(k_LowSurrogate + (code & 0x3FF));
+}
+
+/// Length of the UTF-8 sequence that `text` begins with and its code, or length 0 when it begins with none. The
+/// shortest form only, no surrogates, nothing above U+10FFFF.
+size_t DecodeUtf8(std::string_view text, uint32_t& code) {
+    const auto byte = [&](size_t i) { return static_cast<uint8_t>(text[i]); };
+    const uint8_t lead = byte(0);
+    if (lead < 0x80) {
+        code = lead;
+        return 1;
+    }
+    const size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || text.size() < length)
+        return 0;
+    code = lead & (0x7FU >> length);
+    for (size_t i = 1; i < length; ++i) {
+        if ((byte(i) & 0xC0) != 0x80)
+            return 0;
+        code = code << 6 | (byte(i) & 0x3FU);
+    }
+    constexpr uint32_t k_Smallest[] = {0, 0, 0x80, 0x800, k_FirstSupplementary};
+    const bool isSurrogate = code >= k_HighSurrogate && code <= 0xDFFF;
+    return code < k_Smallest[length] || code > 0x10FFFF || isSurrogate ? 0 : length;
+}
+
+void AppendUtf8(std::string& text, uint32_t code) {
+    const auto put = [&](uint32_t byte) { text += static_cast<char>(static_cast<uint8_t>(byte)); };
+    if (code < 0x80) {
+        put(code);
+    } else if (code < 0x800) {
+        put(0xC0 | code >> 6);
+        put(0x80 | (code & 0x3F));
+    } else if (code < k_FirstSupplementary) {
+        put(0xE0 | code >> 12);
+        put(0x80 | (code >> 6 & 0x3F));
+        put(0x80 | (code & 0x3F));
+    } else {
+        put(0xF0 | code >> 18);
+        put(0x80 | (code >> 12 & 0x3F));
+        put(0x80 | (code >> 6 & 0x3F));
+        put(0x80 | (code & 0x3F));
+    }
+}
+
+constexpr char16_t Fold(char16_t unit) { return unit >= u'A' && unit <= u'Z' ? unit + (u'a' - u'A') : unit; }
+
+constexpr char FoldNarrow(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
+
+constexpr std::u16string_view k_Blanks = u" \t\r\n\v\f";
+
+} // namespace
+
+AString::AString(std::string_view narrow) {
+    m_Units.reserve(narrow.size());
+    while (!narrow.empty()) {
+        uint32_t code = 0;
+        const size_t length = DecodeUtf8(narrow, code);
+        if (length == 0)
+            m_Units += static_cast<char16_t>(k_LowSurrogate + static_cast<uint8_t>(narrow.front()));
+        else
+            AppendCodePoint(m_Units, code);
+        narrow.remove_prefix(std::max<size_t>(length, 1));
+    }
+}
+
+AString::AString(const wchar_t* wide) {
+    for (; *wide != L'\0'; ++wide)
+        AppendCodePoint(m_Units, static_cast<uint32_t>(*wide));
+}
+
+AString AString::Left(ptrdiff_t n) const {
+    const auto size = static_cast<ptrdiff_t>(m_Units.size());
+    return n < 0 || n > size ? *this : AString(m_Units.substr(0, static_cast<size_t>(n)));
+}
+
+AString AString::Right(ptrdiff_t n) const {
+    const auto size = static_cast<ptrdiff_t>(m_Units.size());
+    return n < 0 || n > size ? *this : AString(m_Units.substr(static_cast<size_t>(size - n)));
+}
+
+int AString::Compare(const AString& other) const {
+    const int order = m_Units.compare(other.m_Units);
+    return (order > 0) - (order < 0);
+}
+
+int AString::CompareNoCase(const AString& other) const {
+    const size_t common = std::min(size(), other.size());
+    for (size_t i = 0; i < common; ++i) {
+        const char16_t a = Fold(m_Units[i]);
+        const char16_t b = Fold(other.m_Units[i]);
+        if (a != b)
+            return a < b ? -1 : 1;
+    }
+    return (size() > other.size()) - (size() < other.size());
+}
+
+void AString::replace(size_t pos, size_t count, const AString& text) {
+    if (pos <= size())
+        m_Units.replace(pos, count, text.m_Units);
+}
+
+void AString::Trim() {
+    const size_t first = m_Units.find_first_not_of(k_Blanks);
+    if (first == npos) {
+        m_Units.clear();
+        return;
+    }
+    m_Units = m_Units.substr(first, m_Units.find_last_not_of(k_Blanks) + 1 - first);
+}
+
+/// Walks text and pattern together. On a mismatch it goes back to the last `*` and lets that take one unit more; an
+/// earlier
+/// `*` never has to be tried again, as the last one can take over whatever it would have taken.
+bool AString::Match(const AString& pattern) const {
+    const std::u16string& mask = pattern.m_Units;
+    size_t at = 0;
+    size_t maskAt = 0;
+    size_t star = npos;
+    size_t starEnd = 0;
+    while (at < size()) {
+        if (maskAt < mask.size() && mask[maskAt] == u'*') {
+            star = maskAt++;
+            starEnd = at;
+        } else if (maskAt < mask.size() && (mask[maskAt] == u'?' || mask[maskAt] == m_Units[at])) {
+            ++at;
+            ++maskAt;
+        } else if (star != npos) {
+            maskAt = star + 1;
+            at = ++starEnd;
+        } else {
+            return false;
+        }
+    }
+    return mask.find_first_not_of(u'*', maskAt) == npos;
+}
+
+int AString::TokenizeString(const AString& delimiters, std::vector<AString>& pieces, bool keepEmpty) const {
+    const size_t before = pieces.size();
+    size_t start = 0;
+    while (start <= size()) {
+        const size_t end = std::min(m_Units.find_first_of(delimiters.m_Units, start), size());
+        if (keepEmpty || end > start)
+            pieces.emplace_back(m_Units.substr(start, end - start));
+        start = end + 1;
+    }
+    return static_cast<int>(pieces.size() - before);
+}
+
+bool AString::IsNumber(int& value, int base) const {
+    const std::string text = QRL_ANSI();
+    const bool hasPlus = !text.empty() && text.front() == '+';
+    const char* first = text.data() + (hasPlus ? 1 : 0);
+    const char* last = text.data() + text.size();
+    if (hasPlus && first != last && *first == '-')
+        return false;
+    int parsed = 0;
+    const auto [end, error] = std::from_chars(first, last, parsed, base);
+    if (error != std::errc() || end != last)
+        return false;
+    value = parsed;
+    return true;
+}
+
+std::string AString::QRL_ANSI() const {
+    std::string text;
+    text.reserve(m_Units.size());
+    for (size_t i = 0; i < m_Units.size(); ++i) {
+        const char16_t unit = m_Units[i];
+        if (IsHighSurrogate(unit) && i + 1 < m_Units.size() && IsLowSurrogate(m_Units[i + 1])) {
+            ++i;
+            const uint32_t high = static_cast<uint32_t>(unit - k_HighSurrogate) << 10;
+            AppendUtf8(text, k_FirstSupplementary + high + static_cast<uint32_t>(m_Units[i] - k_LowSurrogate));
+        } else if (IsEscapedByte(unit)) {
+            text += static_cast<char>(static_cast<uint8_t>(unit - k_LowSurrogate));
+        } else {
+            AppendUtf8(text, unit);
+        }
+    }
+    return text;
+}
+
+std::u16string AString::ToText(long value) {
+    const std::string digits = std::to_string(value);
+    return {digits.begin(), digits.end()};
+}
+
+void AString::FormatPieces(const AString& format, const std::vector<std::u16string>& pieces) {
+    std::u16string text;
+    size_t next = 0;
+    for (size_t i = 0; i < format.size(); ++i) {
+        const char16_t kind = format[i] == u'%' && i + 1 < format.size() ? format[i + 1] : u'\0';
+        const bool takesPiece = (kind == u's' || kind == u'd') && next < pieces.size();
+        if (takesPiece)
+            text += pieces[next++];
+        else
+            text += format[i];
+        if (takesPiece || kind == u'%')
+            ++i;
+    }
+    m_Units = std::move(text);
+}
+
+bool io::EqualsNoCase_G(std::string_view a, std::string_view b) {
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return FoldNarrow(x) == FoldNarrow(y); });
+}

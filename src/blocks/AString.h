@@ -1,0 +1,99 @@
+#ifndef QRL_BLOCKS_ASTRING_H
+#define QRL_BLOCKS_ASTRING_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The wide string of the system: a sequence of 16-bit units.
+///
+/// Narrow text is UTF-8. Any narrow text survives the way in and out unchanged: a byte that isn't part of valid UTF-8
+/// is held as the lone unit 0xDC00 + byte, and goes back out as that byte. Positions and sizes count units, so that a
+/// character outside the basic plane counts twice.
+class AString {
+public:
+    static constexpr size_t npos = std::u16string::npos;
+
+    AString() = default;
+    AString(const char* narrow) : AString(std::string_view(narrow)) {} // NOLINT(google-explicit-constructor)
+    AString(const wchar_t* wide);                                      // NOLINT(google-explicit-constructor)
+    /// Widens `narrow`, which may hold any bytes, NUL included.
+    explicit AString(std::string_view narrow);
+    explicit AString(std::u16string units) : m_Units(std::move(units)) {}
+
+    /// Replaces the text.
+    void assign(const char* narrow) { *this = AString(narrow); }
+    void assign(const wchar_t* wide) { *this = AString(wide); }
+
+    size_t size() const { return m_Units.size(); }
+    size_t length() const { return m_Units.size(); }
+    bool empty() const { return m_Units.empty(); }
+    const char16_t* c_str() const { return m_Units.c_str(); }
+    /// The unit at `index`, which must be below `size()`.
+    char16_t& operator[](size_t index) { return m_Units[index]; }
+    char16_t operator[](size_t index) const { return m_Units[index]; }
+
+    /// The first or last `n` units. An `n` outside 0 to `size()` takes what there is.
+    AString Left(ptrdiff_t n) const;
+    AString Right(ptrdiff_t n) const;
+
+    AString operator+(const AString& tail) const { return AString(m_Units + tail.m_Units); }
+    bool operator==(const AString& other) const { return m_Units == other.m_Units; }
+    /// Unit by unit; the order of every ordered map and set of the model.
+    bool operator<(const std::u16string& other) const { return m_Units < other; }
+    bool operator<(const AString& other) const { return m_Units < other.m_Units; }
+
+    /// 0 for equal texts, else the sign of the unit by unit comparison. `CompareNoCase` folds the letters A to Z only.
+    int Compare(const AString& other) const;
+    int CompareNoCase(const AString& other) const;
+
+    /// Position of the first `text` at or behind `from`, `npos` when there is none.
+    size_t find(const AString& text, size_t from = 0) const { return m_Units.find(text.m_Units, from); }
+    /// Replaces `count` units from `pos` on by `text`. A `pos` behind the end changes nothing.
+    void replace(size_t pos, size_t count, const AString& text);
+
+    /// Sets the text from `format`, in which each `%s` and `%d` takes the next argument, whatever its type, and `%%`
+    /// stands for a percent sign. A placeholder without an argument stays as it is; arguments without one are dropped.
+    template <class... Args>
+    void Format(const wchar_t* format, const Args&... args) {
+        FormatPieces(AString(format), {ToText(args)...});
+    }
+
+    /// Removes space, tab, CR, LF, VT and FF at both ends.
+    void Trim();
+
+    /// Wildcard test of the whole text against `pattern`: `*` is any run of characters, also an empty one, `?` any
+    /// single one. Case matters.
+    bool Match(const AString& pattern) const;
+
+    /// Splits the text at each unit that stands in `delimiters`, appends the pieces to `pieces` and returns how many
+    /// there were. Empty pieces are dropped unless `keepEmpty`.
+    int TokenizeString(const AString& delimiters, std::vector<AString>& pieces, bool keepEmpty = false) const;
+
+    /// True when the whole text is a number in `base` (2 to 36): an optional sign, then digits, nothing else, with a
+    /// value that fits 32 bits. Sets `value` only then.
+    bool IsNumber(int& value, int base) const;
+
+    /// The narrow form, the only way to narrow output.
+    std::string QRL_ANSI() const;
+
+private:
+    static std::u16string ToText(long value);
+    static std::u16string ToText(int value) { return ToText(static_cast<long>(value)); }
+    static std::u16string ToText(const char16_t* text) { return text; }
+    static std::u16string ToText(const AString& text) { return text.m_Units; }
+    void FormatPieces(const AString& format, const std::vector<std::u16string>& pieces);
+
+    std::u16string m_Units;
+};
+
+namespace io {
+
+/// Whether two narrow texts are equal when the letters A to Z are folded: what `AString::CompareNoCase` tells of their
+/// wide forms, without making them.
+bool EqualsNoCase_G(std::string_view a, std::string_view b);
+
+} // namespace io
+
+#endif

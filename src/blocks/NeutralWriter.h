@@ -1,0 +1,76 @@
+#ifndef QRL_BLOCKS_NEUTRALWRITER_H
+#define QRL_BLOCKS_NEUTRALWRITER_H
+
+#include "blocks/CAbstract_ostream.h"
+#include "blocks/CToken.h"
+#include "blocks/TreeView.h"
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace io {
+
+/// Puts trees on a stream in the text form of the neutral file:
+///
+///     Name {                      a block with its items, each level one tab deeper
+///         Unit = "mm"             a named value
+///         Via(1, "A", "B", 0.5)   a func whose arguments are values: all on one line
+///         Path(7,                 the first func among arguments, and all behind it, on lines of their own
+///             Vertex(0.0, 0.0),
+///             Arc(-0.5))
+///         NULLPAD(Circle(0))      an only argument that is a func: on the same line
+///     }
+///
+/// Walks with a stack of its own, so that any depth can be written, and hands the text on in large pieces.
+class NeutralWriter {
+public:
+    explicit NeutralWriter(CAbstract_ostream& stream);
+
+    /// Writes a block or func with a line end behind it.
+    void Write(const TreeView& tree);
+    /// Writes a named value with a line end behind it.
+    void WriteNamedValue(std::string_view name, const CToken& value);
+    /// Writes a value without a line end.
+    void WriteValue(const CToken& value);
+
+private:
+    /// A block or func that is being written.
+    struct Frame {
+        const Node* m_Next;
+        const Node* m_End;
+        size_t m_Depth; ///< of the line on which the name stands
+        bool m_IsBlock;
+        bool m_IsFirst = true;   ///< no argument has been written yet
+        bool m_IsBroken = false; ///< each further argument takes a line of its own
+    };
+
+    void Enter(const Node* node, const Node* end, size_t depth);
+    void Leave();
+    void WriteItem(Frame& block);
+    void WriteArgument(Frame& func);
+    void WriteEntry(const Node& entry, size_t depth);
+    void PutNamedValue(std::string_view name, const Node& value, std::string_view text);
+    void PutValue(const Node& value, std::string_view text);
+    void PutWord(const NodeValue& word);
+    void PutWhole(int value);
+    void PutNumber(double value);
+    void PutLineStart(size_t depth);
+    void PutName(std::string_view name);
+    void PutString(std::string_view text);
+    void PutEscaped(char c);
+    void Put(std::string_view text);
+    void Put(char c) { *MakeRoom(1) = c; }
+    /// Room for `size` bytes, which count as written. `size` is at most `k_NumberRoom`.
+    char* MakeRoom(size_t size);
+    void HandOn();
+
+    CAbstract_ostream& m_Stream;
+    std::vector<Frame> m_Frames;
+    std::unique_ptr<char[]> m_Buffer;
+    char* m_At;
+};
+
+} // namespace io
+
+#endif

@@ -1,0 +1,166 @@
+#include "blocks/NodeList.h"
+
+#include "blocks/CStreamio_object.h"
+#include "blocks/CToken.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+#include <new>
+#include <stdexcept>
+
+namespace io {
+
+namespace {
+
+constexpr size_t k_FirstCapacity = 8;
+constexpr size_t k_MaxNodes = std::numeric_limits<uint32_t>::max();
+
+} // namespace
+
+NodeList::NodeList(NodeKind rootKind, std::string_view name) : m_Storage(Allocate(k_FirstCapacity)) {
+    const Node root = Node::OfText(rootKind, name, Node::k_ShortName);
+    Append(root);
+    if (!root.HasShortText())
+        Node::PutLongText(MakeRoom(Node::NodesForLongText(name.size())), name);
+}
+
+NodeList NodeList::CopyOf(const Node* root, const Node* end) {
+    NodeList copy(root->GetKind(), root->GetText());
+    const Node* first = root->GetFirstChild();
+    const auto count = static_cast<size_t>(end - first);
+    if (count != 0)
+        std::copy(first, end, copy.MakeRoom(count));
+    copy.CountReferences(first, end);
+    return copy;
+}
+
+void NodeList::AppendText(NodeKind kind, std::string_view text) {
+    const Node node = Node::OfText(kind, text, Node::k_ShortText);
+    Append(node);
+    if (!node.HasShortText())
+        Node::PutLongText(MakeRoom(Node::NodesForLongText(text.size())), text);
+}
+
+void NodeList::AppendToken(const CToken& token) {
+    if (NodeValue::HasText(token.GetNode()))
+        AppendText(token.GetKind(), token.GetText());
+    else
+        Append(token.GetNode());
+}
+
+void NodeList::AppendTree(const Node* root, const Node* end) {
+    const auto count = static_cast<size_t>(end - root);
+    Node* copy = MakeRoom(count);
+    std::copy(root, end, copy);
+    if (copy->HasChildren())
+        copy->SetExtent(static_cast<uint32_t>(count));
+    CountReferences(root, end);
+}
+
+void NodeList::AppendReference(CStreamio_object* target) {
+    Append(Node::OfReference(target));
+    const Node* added = GetEnd() - 1;
+    CountReferences(added, added + 1);
+}
+
+/// While a node is open, its extent holds the index of the one that was innermost before it: no stack is needed,
+/// whatever the depth.
+void NodeList::Open(NodeKind kind, std::string_view name) {
+    Node node = Node::OfText(kind, name, Node::k_ShortName);
+    const size_t longNodes = node.HasShortText() ? 0 : Node::NodesForLongText(name.size());
+    Node* room = MakeRoom(1 + longNodes);
+    node.SetExtent(m_Storage->m_InnermostOpen);
+    *room = node;
+    if (longNodes != 0)
+        Node::PutLongText(room + 1, name);
+    m_Storage->m_InnermostOpen = static_cast<uint32_t>(room - m_Storage->GetNodes());
+}
+
+void NodeList::Close() {
+    const uint32_t index = m_Storage->m_InnermostOpen;
+    Node& node = m_Storage->GetNodes()[index];
+    m_Storage->m_InnermostOpen = node.GetExtentField();
+    node.SetExtent(static_cast<uint32_t>(m_Storage->m_Size - index));
+}
+
+void NodeList::ShrinkToFit() {
+    if (m_Storage->m_Users != 1)
+        return;
+    const size_t bytes = sizeof(Storage) + m_Storage->m_Size * sizeof(Node);
+    if (void* smaller = std::realloc(m_Storage, bytes)) {
+        m_Storage = static_cast<Storage*>(smaller);
+        m_Storage->m_Capacity = m_Storage->m_Size;
+    }
+}
+
+NodeList::Storage* NodeList::Allocate(size_t capacity) {
+    void* memory = std::malloc(sizeof(Storage) + capacity * sizeof(Node));
+    if (memory == nullptr)
+        throw std::bad_alloc();
+    auto* storage = new (memory) Storage;
+    storage->m_Capacity = capacity;
+    return storage;
+}
+
+/// A storage without references is freed at once. Others go through a list, since dropping a reference can free an
+/// object whose own storage holds the next reference, and so on to any depth.
+void NodeList::Free(Storage* storage) {
+    static Storage* waiting = nullptr;
+    static bool isFreeing = false;
+    storage->m_NextToFree = waiting;
+    waiting = storage;
+    if (isFreeing)
+        return;
+    isFreeing = true;
+    while (waiting != nullptr) {
+        Storage* next = std::exchange(waiting, waiting->m_NextToFree);
+        DropReferences(next);
+        std::free(next);
+    }
+    isFreeing = false;
+}
+
+void NodeList::DropReferences(Storage* storage) {
+    if (storage->m_References == 0)
+        return;
+    const Node* end = storage->GetEnd();
+    for (const Node* node = storage->GetNodes(); node != end; node += node->GetOwnNodes())
+        if (node->GetKind() == NodeKind::k_Reference)
+            CStreamio_object::Release(node->GetReference());
+}
+
+void NodeList::CountReferences(const Node* first, const Node* end) {
+    for (const Node* node = first; node != end; node += node->GetOwnNodes()) {
+        if (node->GetKind() != NodeKind::k_Reference || node->GetReference() == nullptr)
+            continue;
+        node->GetReference()->AddReference();
+        ++m_Storage->m_References;
+    }
+}
+
+/// Grows to at least half as much again, so that appending n nodes costs n. Memory comes from `realloc`: the system
+/// moves a large tree by its page tables and not by its bytes.
+void NodeList::Reserve(size_t count) {
+    if (count > k_MaxNodes - m_Storage->m_Size)
+        throw std::length_error("a tree of blocks has more than 2^32 - 1 nodes");
+    const size_t needed = m_Storage->m_Size + count;
+    const size_t capacity = std::max(needed, m_Storage->m_Size + m_Storage->m_Size / 2 + k_FirstCapacity);
+    if (m_Storage->m_Users == 1) {
+        void* grown = std::realloc(m_Storage, sizeof(Storage) + capacity * sizeof(Node));
+        if (grown == nullptr)
+            throw std::bad_alloc();
+        m_Storage = static_cast<Storage*>(grown);
+        m_Storage->m_Capacity = capacity;
+        return;
+    }
+    Storage* own = Allocate(capacity);
+    own->m_InnermostOpen = m_Storage->m_InnermostOpen;
+    own->m_Size = m_Storage->m_Size;
+    std::copy(m_Storage->GetNodes(), m_Storage->GetEnd(), own->GetNodes());
+    --m_Storage->m_Users;
+    m_Storage = own;
+    CountReferences(GetRoot(), GetEnd());
+}
+
+} // namespace io

@@ -1,0 +1,108 @@
+#ifndef QRL_BLOCKS_NODELIST_H
+#define QRL_BLOCKS_NODELIST_H
+
+#include "blocks/Node.h"
+
+#include <string_view>
+#include <utility>
+
+namespace io {
+
+class CStreamio_object;
+class CToken;
+
+/// The nodes of one tree, root first, shared between handles.
+///
+/// A copy of a list shares the nodes and costs one increment of a count; a change through one handle leaves what the
+/// others see as it was. The nodes stay where they are until the next change. Objects that stand by reference in the
+/// tree are counted, stay shared between copies of the tree, and are freed without recursion, however deep reference
+/// follows on reference. A tree is limited to 2^32 - 1 nodes; `std::length_error` beyond that. Not for use by several
+/// threads.
+class NodeList {
+public:
+    /// A tree of a root without children. `rootKind` is a func or a block.
+    NodeList(NodeKind rootKind, std::string_view name);
+    NodeList(const NodeList& other) : m_Storage(other.m_Storage) { ++m_Storage->m_Users; }
+    NodeList(NodeList&& other) noexcept : NodeList(std::as_const(other)) {}
+    NodeList& operator=(NodeList other) noexcept {
+        std::swap(m_Storage, other.m_Storage);
+        return *this;
+    }
+    ~NodeList() {
+        if (--m_Storage->m_Users == 0)
+            Free(m_Storage);
+    }
+
+    /// The tree from `root` down, as a tree of its own. `end` is the node behind it.
+    static NodeList CopyOf(const Node* root, const Node* end);
+
+    const Node* GetRoot() const { return m_Storage->GetNodes(); }
+    const Node* GetEnd() const { return GetRoot() + m_Storage->m_Size; }
+    /// Bytes of memory that the tree takes, without what stands in it by reference.
+    size_t GetMemory() const { return sizeof(Storage) + m_Storage->m_Capacity * sizeof(Node); }
+
+    /// Appends one value to the innermost open node.
+    void Append(const Node& node) { *MakeRoom(1) = node; }
+    /// Appends a word or text.
+    void AppendText(NodeKind kind, std::string_view text);
+    /// Appends a word that lies in memory which can be read for `Node::k_ShortText` bytes, however short the word is.
+    void AppendPaddedWord(std::string_view word) {
+        if (word.size() <= Node::k_ShortText)
+            Append(Node::OfShortWord(word.data(), word.size()));
+        else
+            AppendText(NodeKind::k_Word, word);
+    }
+    void AppendToken(const CToken& token);
+    /// Appends a copy of the tree from `root` to `end`, which must not lie in this list.
+    void AppendTree(const Node* root, const Node* end);
+    /// Appends an object by reference and counts it. Null leaves a node that stands for nothing.
+    void AppendReference(CStreamio_object* target);
+
+    /// Appends a func, block or named value without children; what is appended next goes into it, until `Close`.
+    void Open(NodeKind kind, std::string_view name);
+    /// Closes the innermost open node. Each `Open` needs its `Close` before the tree is read.
+    void Close();
+    /// True while a node below the root is open.
+    bool HasOpen() const { return m_Storage->m_InnermostOpen != 0; }
+    /// The node that is appended to: the innermost open one, else the root.
+    const Node& GetInnermost() const { return GetRoot()[m_Storage->m_InnermostOpen]; }
+    bool IsInnermostEmpty() const { return GetInnermost().GetFirstChild() == GetEnd(); }
+    /// Gives back the memory that was set aside for growth.
+    void ShrinkToFit();
+
+private:
+    /// The nodes and their administration in one piece of memory.
+    struct Storage {
+        uint32_t m_Users = 1;
+        uint32_t m_InnermostOpen = 0; ///< index of the node that is appended to
+        size_t m_Size = 0;
+        size_t m_Capacity = 0;
+        size_t m_References = 0;         ///< how many nodes are references
+        Storage* m_NextToFree = nullptr; ///< link of the list of storages that wait to be freed
+
+        Node* GetNodes() { return reinterpret_cast<Node*>(this + 1); }
+        Node* GetEnd() { return GetNodes() + m_Size; }
+    };
+    static_assert(sizeof(Storage) % alignof(Node) == 0);
+
+    static Storage* Allocate(size_t capacity);
+    static void Free(Storage* storage);
+    static void DropReferences(Storage* storage);
+
+    /// Room for `count` nodes at the end, which count as part of the tree from now on. For this handle alone.
+    Node* MakeRoom(size_t count) {
+        if (m_Storage->m_Users != 1 || m_Storage->m_Capacity - m_Storage->m_Size < count) [[unlikely]]
+            Reserve(count);
+        Node* room = m_Storage->GetEnd();
+        m_Storage->m_Size += count;
+        return room;
+    }
+    void Reserve(size_t count);
+    void CountReferences(const Node* first, const Node* end);
+
+    Storage* m_Storage;
+};
+
+} // namespace io
+
+#endif

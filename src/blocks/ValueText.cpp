@@ -1,0 +1,48 @@
+#include "blocks/ValueText.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+
+namespace io {
+
+namespace {
+
+char* Put(char* to, std::string_view text) { return std::copy(text.begin(), text.end(), to); }
+
+constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_'; }
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+} // namespace
+
+char* PutDouble(char* to, double value) {
+    if (!std::isfinite(value))
+        return Put(to, std::isnan(value) ? "nan" : value > 0 ? "inf" : "-inf");
+    char* end = std::to_chars(to, to + k_NumberRoom, value).ptr;
+    const bool showsKind = std::any_of(to, end, [](char c) { return c == '.' || c == 'e'; });
+    return showsKind ? end : Put(end, ".0");
+}
+
+char* PutInt(char* to, int value) { return std::to_chars(to, to + k_NumberRoom, value).ptr; }
+
+bool IsIdentifier(std::string_view name) {
+    return !name.empty() && IsLetter(name.front()) &&
+           std::all_of(name.begin(), name.end(), [](char c) { return IsLetter(c) || IsDigit(c); });
+}
+
+std::string ValueText(const Node& node) {
+    char text[k_NumberRoom];
+    switch (node.GetKind()) {
+    case NodeKind::k_Int:
+        return {text, PutInt(text, node.GetInt())};
+    case NodeKind::k_Double:
+        return {text, PutDouble(text, node.GetDouble())};
+    case NodeKind::k_Bool:
+        return node.GetBool() ? "true" : "false";
+    default:
+        return {};
+    }
+}
+
+} // namespace io
