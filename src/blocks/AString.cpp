@@ -119,6 +119,12 @@ int AString::CompareNoCase(const AString& other) const {
     return (size() > other.size()) - (size() < other.size());
 }
 
+std::u16string AString::GetFolded() const {
+    std::u16string folded = m_Units;
+    std::transform(folded.begin(), folded.end(), folded.begin(), Fold);
+    return folded;
+}
+
 void AString::replace(size_t pos, size_t count, const AString& text) {
     if (pos <= size())
         m_Units.replace(pos, count, text.m_Units);
@@ -165,7 +171,7 @@ int AString::TokenizeString(const AString& delimiters, std::vector<AString>& pie
     while (start <= size()) {
         const size_t end = std::min(m_Units.find_first_of(delimiters.m_Units, start), size());
         if (keepEmpty || end > start)
-            pieces.emplace_back(m_Units.substr(start, end - start));
+            pieces.push_back(AString(std::u16string(m_Units, start, end - start)));
         start = end + 1;
     }
     return static_cast<int>(pieces.size() - before);

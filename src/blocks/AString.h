@@ -45,8 +45,10 @@ public:
     bool operator<(const AString& other) const { return m_Units < other.m_Units; }
 
     /// 0 for equal texts, else the sign of the unit by unit comparison. `CompareNoCase` folds the letters A to Z only.
+    /// `GetFolded` gives equal units for texts that are equal but for that case, as the key of an index.
     int Compare(const AString& other) const;
     int CompareNoCase(const AString& other) const;
+    std::u16string GetFolded() const;
 
     /// Position of the first `text` at or behind `from`, `npos` when there is none.
     size_t find(const AString& text, size_t from = 0) const { return m_Units.find(text.m_Units, from); }

@@ -1,0 +1,107 @@
+#ifndef QRL_NEUTRAL_KEYWORDS_H
+#define QRL_NEUTRAL_KEYWORDS_H
+
+#include <array>
+#include <string_view>
+
+/// The vocabulary of the neutral file. Case matters.
+namespace keyword {
+
+inline constexpr char k_QuorelNeutralFile[] = "QuorelNeutralFile";
+inline constexpr char k_Version[] = "Version";
+inline constexpr char k_Source[] = "Source";
+inline constexpr char k_DefaultUnits[] = "DefaultUnits";
+
+inline constexpr char k_LayoutData[] = "LayoutData";
+inline constexpr char k_LayoutCell[] = "LayoutCell";
+inline constexpr char k_Netlist[] = "Netlist";
+inline constexpr char k_Layout[] = "Layout";
+inline constexpr char k_Design[] = "Design";
+inline constexpr char k_TopLayout[] = "TopLayout";
+inline constexpr char k_Name[] = "Name";
+
+inline constexpr char k_Layers[] = "Layers";
+inline constexpr char k_StackupLayer[] = "StackupLayer";
+inline constexpr char k_Signal[] = "Signal";
+inline constexpr char k_MetalizedSignal[] = "MetalizedSignal";
+inline constexpr char k_Bondwire[] = "wirebond";
+inline constexpr char k_Dielectric[] = "Dielectric";
+inline constexpr char k_Top[] = "Top";
+inline constexpr char k_Bottom[] = "Bottom";
+inline constexpr char k_Neither[] = "Neither";
+inline constexpr char k_Copper[] = "Copper";
+inline constexpr char k_FR4[] = "FR4";
+
+/// Words that belong to the format and that this program doesn't write. A new section must not give them another
+/// meaning.
+inline constexpr auto k_Reserved = std::to_array<std::string_view>({
+    "FIDUCIAL",
+    "QRELSMALLPAD",
+    "neither",
+    "4_WEB_SQUARE_THERMAL_90",
+    "4_WEB_SQUARE_THERMAL_45",
+    "4_WEB_ROUND_THERMAL_90",
+    "4_WEB_ROUND_THERMAL_45",
+    "FpPindef",
+    "SolderMask",
+    "NonConnect",
+    "Square",
+    "Sq90",
+    "Sq45",
+    "Rnd90",
+    "Rnd45",
+    "Symbols",
+    "Board",
+    "ASSEMBLY_TOP",
+    "ASSEMBLY_BOTTOM",
+    "SOLDERPASTE_TOP",
+    "SOLDERPASTE_BOTTOM",
+    "SOLDERMASK_TOP",
+    "SOLDERMASK_BOTTOM",
+    "SILKSCREEN_TOP",
+    "SILKSCREEN_BOTTOM",
+    "PLACEMENT_TOP",
+    "PLACEMENT_BOTTOM",
+    "Oblong",
+    "Text",
+    "OPP_SIDE",
+    "Parasitic_Resistance",
+    "Parasitic_Capacitance",
+    "Parasitic_Inductance",
+    "Placement",
+    "Bullet",
+    "Trace",
+    "Compinst",
+    "Right",
+    "Left",
+    "Center",
+    "Assembly",
+    "PIN_SMD",
+    "PIN_THROUGH",
+    "MOUNTING_HOLE",
+    "PadStacks",
+    "Cut",
+    "SchematicData",
+    "Date",
+    "mm",
+    "CellName",
+    "PhysicalDimensions",
+    "Template",
+    "SilkScreen",
+    "LayoutPorts",
+    "_XMirrored",
+    "Instances",
+    "Pin",
+    "Materials",
+    "POSITIVE",
+    "Power",
+    "FpGraphics",
+    "Unknown",
+    "copper",
+    "User",
+    "SolderPaste",
+});
+
+} // namespace keyword
+
+#endif
