@@ -1,10 +1,11 @@
 #include "blocks/FileText.h"
 
+#include "lib/utils/LargeMemory.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
-#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -45,7 +46,7 @@ ssize_t ReadSome(int file, char* to, size_t size) {
 
 FileText::FileText(std::string_view text) : m_Size(text.size()) {
     Resize(m_Size);
-    std::copy(text.begin(), text.end(), m_Bytes.get());
+    std::copy(text.begin(), text.end(), m_Bytes);
     Pad();
 }
 
@@ -59,7 +60,7 @@ bool FileText::Read(const std::string& path) {
     size_t capacity = std::max(static_cast<size_t>(info.st_size) + 1, S_ISREG(info.st_mode) ? 1 : k_FirstSize);
     text.Resize(capacity);
     for (;;) {
-        const ssize_t got = ReadSome(file.Get(), text.m_Bytes.get() + text.m_Size, capacity - text.m_Size);
+        const ssize_t got = ReadSome(file.Get(), text.m_Bytes + text.m_Size, capacity - text.m_Size);
         if (got < 0)
             return false;
         if (got == 0)
@@ -73,14 +74,19 @@ bool FileText::Read(const std::string& path) {
     return true;
 }
 
-void FileText::Resize(size_t capacity) {
-    void* grown = std::realloc(m_Bytes.get(), capacity + k_Padding);
-    if (grown == nullptr)
-        throw std::bad_alloc();
-    static_cast<void>(m_Bytes.release());
-    m_Bytes.reset(static_cast<char*>(grown));
+FileText::~FileText() { base::FreeLarge(m_Bytes, m_Capacity); }
+
+void FileText::Swap(FileText& other) noexcept {
+    std::swap(m_Bytes, other.m_Bytes);
+    std::swap(m_Size, other.m_Size);
+    std::swap(m_Capacity, other.m_Capacity);
 }
 
-void FileText::Pad() { std::memset(m_Bytes.get() + m_Size, '\n', k_Padding); }
+void FileText::Resize(size_t capacity) {
+    m_Bytes = static_cast<char*>(base::ResizeLarge(m_Bytes, m_Capacity, capacity + k_Padding));
+    m_Capacity = capacity + k_Padding;
+}
+
+void FileText::Pad() { std::memset(m_Bytes + m_Size, '\n', k_Padding); }
 
 } // namespace io

@@ -2,8 +2,6 @@
 #define QRL_BLOCKS_FILETEXT_H
 
 #include <cstddef>
-#include <cstdlib>
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -18,22 +16,30 @@ public:
     FileText() = default;
     /// A copy of `text`.
     explicit FileText(std::string_view text);
+    FileText(FileText&& other) noexcept { Swap(other); }
+    FileText& operator=(FileText&& other) noexcept {
+        Swap(other);
+        return *this;
+    }
+    FileText(const FileText&) = delete;
+    FileText& operator=(const FileText&) = delete;
+    ~FileText();
+
     /// Reads a file, a pipe or a device to its end. False, with nothing changed, when it can't be opened or read.
     bool Read(const std::string& path);
 
-    const char* GetBegin() const { return m_Bytes.get(); }
-    const char* GetEnd() const { return m_Bytes.get() + m_Size; }
+    const char* GetBegin() const { return m_Bytes; }
+    const char* GetEnd() const { return m_Bytes + m_Size; }
 
 private:
-    struct Deleter {
-        void operator()(char* bytes) const { std::free(bytes); }
-    };
-
+    void Swap(FileText& other) noexcept;
     void Resize(size_t capacity);
+    /// Fills the padding behind the text.
     void Pad();
 
-    std::unique_ptr<char, Deleter> m_Bytes;
+    char* m_Bytes = nullptr;
     size_t m_Size = 0;
+    size_t m_Capacity = 0; ///< with the padding
 };
 
 } // namespace io

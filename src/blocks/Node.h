@@ -99,6 +99,15 @@ public:
         return node;
     }
 
+    /// The same for a func with a short name.
+    static Node OfShortName(const char* name, size_t size, uint32_t extent) {
+        Node node(NodeKind::k_Func);
+        node.m_TextSize = static_cast<uint8_t>(size);
+        std::memcpy(node.m_Payload, name, k_ShortText);
+        node.SetExtent(extent);
+        return node;
+    }
+
     /// Puts `text` and its size into the nodes from `to` on.
     static void PutLongText(Node* to, std::string_view text) {
         const uint64_t size = text.size();

@@ -2,9 +2,9 @@
 
 #include "blocks/CStreamio_object.h"
 #include "blocks/CToken.h"
+#include "lib/utils/LargeMemory.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <limits>
 #include <new>
 #include <stdexcept>
@@ -77,28 +77,14 @@ void NodeList::Open(NodeKind kind, std::string_view name) {
     m_Storage->m_InnermostOpen = static_cast<uint32_t>(room - m_Storage->GetNodes());
 }
 
-void NodeList::Close() {
-    const uint32_t index = m_Storage->m_InnermostOpen;
-    Node& node = m_Storage->GetNodes()[index];
-    m_Storage->m_InnermostOpen = node.GetExtentField();
-    node.SetExtent(static_cast<uint32_t>(m_Storage->m_Size - index));
-}
-
 void NodeList::ShrinkToFit() {
     if (m_Storage->m_Users != 1)
         return;
-    const size_t bytes = sizeof(Storage) + m_Storage->m_Size * sizeof(Node);
-    if (void* smaller = std::realloc(m_Storage, bytes)) {
-        m_Storage = static_cast<Storage*>(smaller);
-        m_Storage->m_Capacity = m_Storage->m_Size;
-    }
+    Resize(m_Storage->m_Size);
 }
 
 NodeList::Storage* NodeList::Allocate(size_t capacity) {
-    void* memory = std::malloc(sizeof(Storage) + capacity * sizeof(Node));
-    if (memory == nullptr)
-        throw std::bad_alloc();
-    auto* storage = new (memory) Storage;
+    auto* storage = new (base::AllocateLarge(GetBytes(capacity))) Storage;
     storage->m_Capacity = capacity;
     return storage;
 }
@@ -116,7 +102,7 @@ void NodeList::Free(Storage* storage) {
     while (waiting != nullptr) {
         Storage* next = std::exchange(waiting, waiting->m_NextToFree);
         DropReferences(next);
-        std::free(next);
+        base::FreeLarge(next, GetBytes(next->m_Capacity));
     }
     isFreeing = false;
 }
@@ -139,19 +125,28 @@ void NodeList::CountReferences(const Node* first, const Node* end) {
     }
 }
 
-/// Grows to at least half as much again, so that appending n nodes costs n. Memory comes from `realloc`: the system
-/// moves a large tree by its page tables and not by its bytes.
+void NodeList::Resize(size_t capacity) {
+    void* resized = base::ResizeLarge(m_Storage, GetBytes(m_Storage->m_Capacity), GetBytes(capacity));
+    m_Storage = static_cast<Storage*>(resized);
+    m_Storage->m_Capacity = capacity;
+}
+
+void NodeList::ExpectText(size_t size) {
+    constexpr size_t k_BytesPerNode = 2;
+    m_Storage->m_Expected = std::min(size / k_BytesPerNode + 1, k_MaxNodes);
+}
+
+/// Grows to at least half as much again, so that appending n nodes costs n. A tree that turns out to be large grows at
+/// once to what is expected of it.
 void NodeList::Reserve(size_t count) {
     if (count > k_MaxNodes - m_Storage->m_Size)
         throw std::length_error("a tree of blocks has more than 2^32 - 1 nodes");
     const size_t needed = m_Storage->m_Size + count;
-    const size_t capacity = std::max(needed, m_Storage->m_Size + m_Storage->m_Size / 2 + k_FirstCapacity);
+    size_t capacity = std::max(needed, m_Storage->m_Size + m_Storage->m_Size / 2 + k_FirstCapacity);
+    if (GetBytes(capacity) >= base::k_LargeSize)
+        capacity = std::max(capacity, m_Storage->m_Expected);
     if (m_Storage->m_Users == 1) {
-        void* grown = std::realloc(m_Storage, sizeof(Storage) + capacity * sizeof(Node));
-        if (grown == nullptr)
-            throw std::bad_alloc();
-        m_Storage = static_cast<Storage*>(grown);
-        m_Storage->m_Capacity = capacity;
+        Resize(capacity);
         return;
     }
     Storage* own = Allocate(capacity);

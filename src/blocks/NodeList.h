@@ -39,7 +39,7 @@ public:
     const Node* GetRoot() const { return m_Storage->GetNodes(); }
     const Node* GetEnd() const { return GetRoot() + m_Storage->m_Size; }
     /// Bytes of memory that the tree takes, without what stands in it by reference.
-    size_t GetMemory() const { return sizeof(Storage) + m_Storage->m_Capacity * sizeof(Node); }
+    size_t GetMemory() const { return GetBytes(m_Storage->m_Capacity); }
 
     /// Appends one value to the innermost open node.
     void Append(const Node& node) { *MakeRoom(1) = node; }
@@ -60,14 +60,32 @@ public:
 
     /// Appends a func, block or named value without children; what is appended next goes into it, until `Close`.
     void Open(NodeKind kind, std::string_view name);
+    /// The same for a func whose name lies in memory that can be read for `Node::k_ShortText` bytes.
+    void OpenPadded(std::string_view name) {
+        if (name.size() > Node::k_ShortName) {
+            Open(NodeKind::k_Func, name);
+            return;
+        }
+        Node* node = MakeRoom(1);
+        *node = Node::OfShortName(name.data(), name.size(), m_Storage->m_InnermostOpen);
+        m_Storage->m_InnermostOpen = static_cast<uint32_t>(node - m_Storage->GetNodes());
+    }
     /// Closes the innermost open node. Each `Open` needs its `Close` before the tree is read.
-    void Close();
+    void Close() {
+        const uint32_t index = m_Storage->m_InnermostOpen;
+        Node& node = m_Storage->GetNodes()[index];
+        m_Storage->m_InnermostOpen = node.GetExtentField();
+        node.SetExtent(static_cast<uint32_t>(m_Storage->m_Size - index));
+    }
     /// True while a node below the root is open.
     bool HasOpen() const { return m_Storage->m_InnermostOpen != 0; }
     /// The node that is appended to: the innermost open one, else the root.
     const Node& GetInnermost() const { return GetRoot()[m_Storage->m_InnermostOpen]; }
     bool IsInnermostEmpty() const { return GetInnermost().GetFirstChild() == GetEnd(); }
-    /// Gives back the memory that was set aside for growth.
+    /// Tells that the tree is made from `size` bytes of text, in which every node takes at least two, a parenthesis or
+    /// a blank among them. Memory for a large tree is then set aside at once; what isn't used of it costs nothing, and
+    /// `ShrinkToFit` gives it back.
+    void ExpectText(size_t size);
     void ShrinkToFit();
 
 private:
@@ -77,6 +95,7 @@ private:
         uint32_t m_InnermostOpen = 0; ///< index of the node that is appended to
         size_t m_Size = 0;
         size_t m_Capacity = 0;
+        size_t m_Expected = 0;           ///< nodes that a large tree is likely to have
         size_t m_References = 0;         ///< how many nodes are references
         Storage* m_NextToFree = nullptr; ///< link of the list of storages that wait to be freed
 
@@ -85,6 +104,7 @@ private:
     };
     static_assert(sizeof(Storage) % alignof(Node) == 0);
 
+    static size_t GetBytes(size_t capacity) { return sizeof(Storage) + capacity * sizeof(Node); }
     static Storage* Allocate(size_t capacity);
     static void Free(Storage* storage);
     static void DropReferences(Storage* storage);
@@ -98,6 +118,7 @@ private:
         return room;
     }
     void Reserve(size_t count);
+    void Resize(size_t capacity);
     void CountReferences(const Node* first, const Node* end);
 
     Storage* m_Storage;

@@ -26,18 +26,8 @@ std::string_view ReadName(CToken_istream& stream) {
     return stream.ReadToken().m_Text;
 }
 
-/// Consumes one element of the innermost open list: a value, or the start of a list, which is then open unless it is
-/// complete already.
-void ReadElement(CToken_istream& stream, NodeList& nodes) {
-    if (!stream.NextIs('(')) {
-        const CToken_istream::Token token = stream.ReadToken();
-        if (token.m_Kind == NodeKind::k_Word)
-            nodes.AppendPaddedWord(token.m_Text);
-        else
-            nodes.AppendText(token.m_Kind, token.m_Text);
-        return;
-    }
-    stream.Skip();
+/// Opens the list whose opening parenthesis has just been consumed, and closes it where it is complete already.
+void OpenList(CToken_istream& stream, NodeList& nodes) {
     if (stream.NextIs(')')) {
         stream.Skip();
         nodes.Open(NodeKind::k_Func, k_NamelessList);
@@ -45,7 +35,7 @@ void ReadElement(CToken_istream& stream, NodeList& nodes) {
         return;
     }
     const std::string_view name = ReadName(stream);
-    nodes.Open(NodeKind::k_Func, name);
+    nodes.OpenPadded(name);
     if (IsPassedOver(name)) {
         PassOver(stream);
         nodes.Close();
@@ -56,14 +46,18 @@ void ReadElement(CToken_istream& stream, NodeList& nodes) {
 /// open list closes in turn.
 void ReadElements(CToken_istream& stream, NodeList& nodes) {
     for (;;) {
-        if (!stream.NextIs(')') && !stream.Ended()) {
-            ReadElement(stream, nodes);
-            continue;
+        const CToken_istream::Token token = stream.ReadToken();
+        if (token.m_Kind == NodeKind::k_Text) {
+            nodes.AppendText(NodeKind::k_Text, token.m_Text);
+        } else if (token.m_Kind == NodeKind::k_Empty || token.m_Text.front() == ')') {
+            if (!nodes.HasOpen())
+                return;
+            nodes.Close();
+        } else if (token.m_Text.front() == '(') {
+            OpenList(stream, nodes);
+        } else {
+            nodes.AppendPaddedWord(token.m_Text);
         }
-        stream.Skip();
-        if (!nodes.HasOpen())
-            return;
-        nodes.Close();
     }
 }
 
@@ -86,6 +80,7 @@ void ReadFunc(CToken_istream& stream, CBlock_ptr<CBlock_func>& func) {
     const std::string_view name = ReadName(stream);
     TreeView tree(NodeKind::k_Func, name);
     NodeList& nodes = tree.Own();
+    nodes.ExpectText(stream.GetRest().size());
     if (IsPassedOver(name))
         PassOver(stream);
     else

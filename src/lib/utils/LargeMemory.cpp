@@ -1,0 +1,74 @@
+#include "lib/utils/LargeMemory.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+#include <sys/mman.h>
+
+namespace base {
+
+namespace {
+
+constexpr size_t k_HugePage = size_t{2} * 1024 * 1024;
+
+size_t ToPages(size_t size) { return (size + k_HugePage - 1) / k_HugePage * k_HugePage; }
+
+/// Asks for one huge page more, and gives back what lies outside of the whole huge pages within.
+void* MapPages(size_t size) {
+    const size_t pages = ToPages(size);
+    void* mapped =
+        mmap(nullptr, pages + k_HugePage, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (mapped == MAP_FAILED)
+        throw std::bad_alloc();
+    char* first = static_cast<char*>(mapped);
+    const size_t head = (k_HugePage - reinterpret_cast<uintptr_t>(first) % k_HugePage) % k_HugePage;
+    if (head != 0)
+        munmap(first, head);
+    munmap(first + head + pages, k_HugePage - head);
+    madvise(first + head, pages, MADV_HUGEPAGE);
+    return first + head;
+}
+
+} // namespace
+
+void* AllocateLarge(size_t size) {
+    if (size >= k_LargeSize)
+        return MapPages(size);
+    void* memory = std::malloc(size);
+    if (memory == nullptr)
+        throw std::bad_alloc();
+    return memory;
+}
+
+void* ResizeLarge(void* memory, size_t oldSize, size_t newSize) {
+    const bool wasLarge = oldSize >= k_LargeSize;
+    const bool isLarge = newSize >= k_LargeSize;
+    if (wasLarge && isLarge) {
+        void* resized = mremap(memory, ToPages(oldSize), ToPages(newSize), MREMAP_MAYMOVE);
+        if (resized == MAP_FAILED)
+            throw std::bad_alloc();
+        madvise(resized, ToPages(newSize), MADV_HUGEPAGE);
+        return resized;
+    }
+    if (!wasLarge && !isLarge) {
+        void* resized = std::realloc(memory, newSize);
+        if (resized == nullptr)
+            throw std::bad_alloc();
+        return resized;
+    }
+    void* moved = AllocateLarge(newSize);
+    std::memcpy(moved, memory, std::min(oldSize, newSize));
+    FreeLarge(memory, oldSize);
+    return moved;
+}
+
+void FreeLarge(void* memory, size_t size) noexcept {
+    if (size >= k_LargeSize)
+        munmap(memory, ToPages(size));
+    else
+        std::free(memory);
+}
+
+} // namespace base
