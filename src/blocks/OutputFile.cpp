@@ -21,8 +21,7 @@ std::string FolderOf(const std::string& path) {
     return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
 }
 
-/// The path behind a chain of symbolic links, also when nothing is there. A chain without an end gives a link of it,
-/// and opening that gives the reason.
+/// The path behind a chain of symbolic links, also when nothing is there.
 std::string FollowLinks(std::string path) {
     char target[PATH_MAX];
     for (int i = 0; i < k_MaxLinks; ++i) {
@@ -61,12 +60,13 @@ void OutputFile::Commit() {
 }
 
 bool OutputFile::Open() {
-    m_Target = FollowLinks(m_Name);
     struct stat old = {};
-    const bool exists = stat(m_Target.c_str(), &old) == 0;
+    const bool exists = stat(m_Name.c_str(), &old) == 0;
+    // The links of /dev/stdout to a pipe can be opened and not followed; a chain of links without an end can be
+    // neither.
     if (exists && !S_ISREG(old.st_mode))
-        m_Descriptor = open(m_Target.c_str(), O_WRONLY | O_CLOEXEC);
-    else
+        m_Descriptor = open(m_Name.c_str(), O_WRONLY | O_CLOEXEC);
+    else if (exists || errno != ELOOP)
         OpenTemporary();
     if (m_Descriptor < 0 || (exists && !m_Temporary.empty() && fchmod(m_Descriptor, old.st_mode & ALLPERMS) != 0)) {
         Fail(errno);
@@ -78,6 +78,7 @@ bool OutputFile::Open() {
 
 /// The name begins with a dot and holds the number of the process, so that runs side by side don't meet.
 void OutputFile::OpenTemporary() {
+    m_Target = FollowLinks(m_Name);
     const std::string start = FolderOf(m_Target) + ".qrl-" + std::to_string(getpid()) + "-";
     for (int i = 0; i < k_MaxTemporaries && m_Descriptor < 0; ++i) {
         m_Temporary = start + std::to_string(i);
