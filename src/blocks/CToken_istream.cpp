@@ -68,7 +68,8 @@ CToken_istream& CToken_istream::operator>>(CToken& token) {
 }
 
 std::string_view CToken_istream::ReadQuoted() {
-    const char* first = m_Ahead + 1;
+    MoveTo(m_Ahead);
+    const char* first = m_At + 1;
     const char* quote = std::find(first, GetEnd(), '"');
     if (quote == GetEnd())
         throw XStreamioError(0);

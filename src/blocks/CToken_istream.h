@@ -28,7 +28,7 @@ private:
 /// The stream stands behind the last token or line that was consumed, and holds the whole text in memory. Looking ahead
 /// consumes nothing, not even blanks. A byte order mark at the start is skipped. A quoted string begins with `"` where
 /// a token begins and ends at the next `"`; nothing in it has a meaning. Consuming one that is never closed throws
-/// `XStreamioError` and leaves the stream ahead of it.
+/// `XStreamioError` and leaves the stream at the `"` that opens it.
 class CToken_istream : public CAbstract_istream {
 public:
     static constexpr int k_SideText = 1;      ///< flags: a file that is read by lines
