@@ -2,6 +2,9 @@
 
 #include "blocks/ValueText.h"
 
+#include <cmath>
+#include <limits>
+
 namespace io {
 
 const char CToken::mACharEmptyString[1] = "";
@@ -69,7 +72,7 @@ bool NodeValue::Query(double& value) const {
 
 bool NodeValue::Query(float& value) const {
     double exact = 0.0;
-    if (!Query(exact))
+    if (!Query(exact) || (std::isfinite(exact) && std::abs(exact) > std::numeric_limits<float>::max()))
         return false;
     value = static_cast<float>(exact);
     return true;
