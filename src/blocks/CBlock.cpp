@@ -7,8 +7,9 @@
 
 namespace io {
 
+/// The tree is assigned from a copy: the tree that goes can hold the last reference to `other`.
 CBlock& CBlock::operator=(const CBlock& other) {
-    m_Tree = other.m_Tree;
+    m_Tree = TreeView(other.m_Tree);
     m_NameToken.reset();
     return *this;
 }

@@ -11,11 +11,12 @@ namespace io {
 CBlock_func::CBlock_func(const CBlock_func& other)
     : CBlock_func_arg(other), m_Tree(other.m_Tree), m_Read(other.m_Read), m_IsOk(other.m_IsOk) {}
 
+/// The tree comes last, and from a copy: the tree that goes can hold the last reference to `other`.
 CBlock_func& CBlock_func::operator=(const CBlock_func& other) {
-    m_Tree = other.m_Tree;
     m_Read = other.m_Read;
     m_IsOk = other.m_IsOk;
     m_NameToken.reset();
+    m_Tree = TreeView(other.m_Tree);
     return *this;
 }
 

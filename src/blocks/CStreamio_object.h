@@ -35,7 +35,8 @@ public:
     virtual AString Pack() const { return Pack(0, -1); }
     /// The text form as the bytes that `write` puts.
     virtual std::string BinaryPack() const;
-    /// Replaces the content by that of a text form. False, with the object unchanged, when `text` isn't exactly one.
+    /// Replaces the content by that of a text form. False when `text` isn't exactly one; the object is then unchanged,
+    /// unless `text` begins with one.
     virtual bool Unpack(const AString& text);
     /// How many bytes `write` puts on `stream`; the same for every stream.
     virtual size_t BinarySize(const CAbstract_ostream& stream) const;

@@ -1,0 +1,217 @@
+#include "blocks/NodeList.h"
+
+#include "tests/blocks/BlockText.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace io {
+namespace {
+
+/// The text of all nodes in the order of memory, each with its extent: `a4 1 b2 c1`.
+std::string NodesOf(const NodeList& nodes) {
+    std::string text;
+    for (const Node* node = nodes.GetRoot() + nodes.GetRoot()->GetOwnNodes(); node != nodes.GetEnd();
+         node += node->GetOwnNodes())
+        text += std::string(node->GetText()) + std::to_string(node->GetExtent()) + ' ';
+    return text;
+}
+
+TEST(NodeListTest, ARootStandsAlone) {
+    const NodeList nodes(NodeKind::k_Func, "root");
+    EXPECT_EQ(nodes.GetRoot()->GetKind(), NodeKind::k_Func);
+    EXPECT_EQ(nodes.GetRoot()->GetText(), "root");
+    EXPECT_EQ(nodes.GetRoot()->GetFirstChild(), nodes.GetEnd());
+    EXPECT_TRUE(nodes.IsInnermostEmpty());
+    EXPECT_FALSE(nodes.HasOpen());
+}
+
+TEST(NodeListTest, NamesAndTextsOfEveryLengthAreKept) {
+    for (size_t size = 0; size < 60; ++size) {
+        const std::string text(size, static_cast<char>('a' + size % 26));
+        NodeList nodes(NodeKind::k_Block, text);
+        nodes.AppendText(NodeKind::k_Word, text);
+        nodes.Open(NodeKind::k_Func, text);
+        nodes.AppendText(NodeKind::k_Text, text);
+        nodes.Close();
+        const Node* word = nodes.GetRoot()->GetFirstChild();
+        const Node* func = word->GetNext();
+        EXPECT_EQ(nodes.GetRoot()->GetText(), text);
+        EXPECT_EQ(word->GetText(), text);
+        EXPECT_EQ(func->GetText(), text);
+        EXPECT_EQ(func->GetFirstChild()->GetText(), text);
+        EXPECT_EQ(func->GetFirstChild()->GetNext(), nodes.GetEnd());
+        EXPECT_EQ(func->GetNext(), nodes.GetEnd());
+    }
+}
+
+TEST(NodeListTest, ShortTextsTakeOneNodeAndLongOnesMore) {
+    struct Row {
+        size_t m_Size;
+        size_t m_Nodes; ///< one, or one and 8 bytes of size with the text, in pieces of 16
+    };
+    for (const Row& row : {Row{0, 1}, Row{14, 1}, Row{15, 3}, Row{24, 3}, Row{25, 4}, Row{40, 4}, Row{41, 5}}) {
+        NodeList nodes(NodeKind::k_Func, "root");
+        nodes.AppendText(NodeKind::k_Text, std::string(row.m_Size, 'x'));
+        EXPECT_EQ(nodes.GetRoot()->GetFirstChild()->GetExtent(), row.m_Nodes) << row.m_Size;
+    }
+}
+
+TEST(NodeListTest, OpenNodesTakeWhatIsAppended) {
+    NodeList nodes(NodeKind::k_Func, "root");
+    nodes.Open(NodeKind::k_Func, "a");
+    EXPECT_TRUE(nodes.HasOpen());
+    EXPECT_TRUE(nodes.IsInnermostEmpty());
+    EXPECT_EQ(nodes.GetInnermost().GetText(), "a");
+    nodes.AppendText(NodeKind::k_Word, "x");
+    EXPECT_FALSE(nodes.IsInnermostEmpty());
+    nodes.Open(NodeKind::k_Func, "b");
+    EXPECT_EQ(nodes.GetInnermost().GetText(), "b");
+    nodes.Close();
+    EXPECT_EQ(nodes.GetInnermost().GetText(), "a");
+    nodes.AppendText(NodeKind::k_Word, "y");
+    nodes.Close();
+    EXPECT_FALSE(nodes.HasOpen());
+    nodes.AppendText(NodeKind::k_Word, "z");
+    EXPECT_EQ(NodesOf(nodes), "a4 x1 b1 y1 z1 ");
+}
+
+TEST(NodeListTest, ValuesAreKept) {
+    NodeList nodes(NodeKind::k_Func, "root");
+    nodes.Append(Node::OfInt(-2147483647 - 1));
+    nodes.Append(Node::OfDouble(-0.1));
+    nodes.Append(Node::OfBool(true));
+    nodes.Append(Node::OfBool(false));
+    nodes.AppendToken(CToken());
+    const Node* at = nodes.GetRoot() + 1;
+    EXPECT_EQ(at[0].GetInt(), -2147483647 - 1);
+    EXPECT_EQ(at[1].GetDouble(), -0.1);
+    EXPECT_TRUE(at[2].GetBool());
+    EXPECT_FALSE(at[3].GetBool());
+    EXPECT_EQ(at[4].GetKind(), NodeKind::k_Empty);
+    EXPECT_EQ(at + 5, nodes.GetEnd());
+}
+
+TEST(NodeListTest, APaddedWordIsKeptWithoutItsPadding) {
+    const std::string padded = "word" + std::string(30, '#');
+    NodeList nodes(NodeKind::k_Func, "root");
+    nodes.AppendPaddedWord(std::string_view(padded).substr(0, 4));
+    nodes.AppendPaddedWord(std::string_view(padded).substr(0, 0));
+    nodes.AppendPaddedWord(std::string_view(padded).substr(0, 14));
+    nodes.AppendPaddedWord(std::string_view(padded).substr(0, 15));
+    EXPECT_EQ(NodesOf(nodes), "word1 1 word##########1 word###########3 ");
+}
+
+TEST(NodeListTest, ACopySharesTheNodesUntilOneChanges) {
+    NodeList nodes(NodeKind::k_Func, "root");
+    nodes.AppendText(NodeKind::k_Word, "x");
+    const NodeList copy = nodes;
+    EXPECT_EQ(copy.GetRoot(), nodes.GetRoot());
+    nodes.AppendText(NodeKind::k_Word, "y");
+    EXPECT_NE(copy.GetRoot(), nodes.GetRoot());
+    EXPECT_EQ(NodesOf(nodes), "x1 y1 ");
+    EXPECT_EQ(NodesOf(copy), "x1 ");
+}
+
+TEST(NodeListTest, AListCanBeCopiedWhileANodeIsOpen) {
+    NodeList nodes(NodeKind::k_Func, "root");
+    nodes.Open(NodeKind::k_Func, "a");
+    NodeList copy = nodes;
+    copy.AppendText(NodeKind::k_Word, "x");
+    copy.Close();
+    nodes.AppendText(NodeKind::k_Word, "y");
+    nodes.AppendText(NodeKind::k_Word, "z");
+    nodes.Close();
+    EXPECT_EQ(NodesOf(copy), "a2 x1 ");
+    EXPECT_EQ(NodesOf(nodes), "a3 y1 z1 ");
+}
+
+TEST(NodeListTest, AMoveLeavesAListThatCanBeUsed) {
+    NodeList nodes(NodeKind::k_Func, "root");
+    NodeList moved = std::move(nodes);
+    moved.AppendText(NodeKind::k_Word, "x");
+    nodes = moved;
+    EXPECT_EQ(NodesOf(nodes), "x1 ");
+}
+
+TEST(NodeListTest, APartIsCopiedAsATreeOfItsOwn) {
+    NodeList nodes(NodeKind::k_Func, "root");
+    nodes.Open(NodeKind::k_Func, "a very long name");
+    nodes.Open(NodeKind::k_Func, "b");
+    nodes.AppendText(NodeKind::k_Word, "x");
+    nodes.Close();
+    nodes.Close();
+    nodes.AppendText(NodeKind::k_Word, "z");
+    const Node* part = nodes.GetRoot()->GetFirstChild();
+    NodeList copy = NodeList::CopyOf(part, part->GetNext());
+    EXPECT_EQ(copy.GetRoot()->GetText(), "a very long name");
+    EXPECT_EQ(NodesOf(copy), "b2 x1 ");
+    copy.AppendText(NodeKind::k_Word, "y");
+    EXPECT_EQ(NodesOf(copy), "b2 x1 y1 ");
+}
+
+TEST(NodeListTest, AnAppendedTreeGetsItsExtent) {
+    NodeList part(NodeKind::k_Func, "part");
+    part.AppendText(NodeKind::k_Word, "x");
+    NodeList nodes(NodeKind::k_Func, "root");
+    nodes.AppendTree(part.GetRoot(), part.GetEnd());
+    nodes.AppendText(NodeKind::k_Word, "y");
+    EXPECT_EQ(NodesOf(nodes), "part2 x1 y1 ");
+}
+
+TEST(NodeListTest, MemoryForGrowthCanBeGivenBack) {
+    NodeList nodes(NodeKind::k_Func, "root");
+    for (int i = 0; i < 1000; ++i)
+        nodes.AppendText(NodeKind::k_Word, "x");
+    const size_t before = nodes.GetMemory();
+    EXPECT_GE(before, 1001 * sizeof(Node));
+    nodes.ShrinkToFit();
+    EXPECT_LE(nodes.GetMemory(), before);
+    EXPECT_LT(nodes.GetMemory(), 1011 * sizeof(Node));
+    nodes.AppendText(NodeKind::k_Word, "y");
+    EXPECT_EQ(nodes.GetEnd() - nodes.GetRoot(), 1002);
+}
+
+TEST(NodeListTest, ASharedListIsNotMovedToGiveMemoryBack) {
+    NodeList nodes(NodeKind::k_Func, "root");
+    const NodeList copy = nodes;
+    const size_t before = nodes.GetMemory();
+    nodes.ShrinkToFit();
+    EXPECT_EQ(nodes.GetMemory(), before);
+    EXPECT_EQ(nodes.GetRoot(), copy.GetRoot());
+}
+
+TEST(NodeListTest, ReferencesAreCountedInEveryTreeThatHoldsThem) {
+    int alive = 0;
+    {
+        NodeList copy(NodeKind::k_Func, "copy");
+        {
+            NodeList nodes(NodeKind::k_Func, "root");
+            CBlock_ptr<CBlock_func> func = NewCounted("f", alive);
+            nodes.AppendReference(func.Item());
+            nodes.AppendReference(nullptr);
+            copy.AppendTree(nodes.GetRoot(), nodes.GetEnd());
+        }
+        EXPECT_EQ(alive, 1);
+    }
+    EXPECT_EQ(alive, 0);
+}
+
+TEST(NodeListTest, ABrokenOffListDropsItsReferences) {
+    int alive = 0;
+    {
+        NodeList nodes(NodeKind::k_Func, "root");
+        nodes.Open(NodeKind::k_Func, "open");
+        CBlock_ptr<CBlock_func> func = NewCounted("f", alive);
+        nodes.AppendReference(func.Item());
+        nodes.AppendText(NodeKind::k_Text, "a text that is longer than its node");
+    }
+    EXPECT_EQ(alive, 0);
+}
+
+} // namespace
+} // namespace io
