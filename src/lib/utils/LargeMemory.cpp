@@ -43,6 +43,8 @@ void* AllocateLarge(size_t size) {
 }
 
 void* ResizeLarge(void* memory, size_t oldSize, size_t newSize) {
+    if (memory == nullptr)
+        return AllocateLarge(newSize);
     const bool wasLarge = oldSize >= k_LargeSize;
     const bool isLarge = newSize >= k_LargeSize;
     if (wasLarge && isLarge) {
