@@ -1,0 +1,55 @@
+#ifndef QRL_TESTS_BOARDTEXT_H
+#define QRL_TESTS_BOARDTEXT_H
+
+#include "blocks/FuncRange.h"
+#include "blocks/ReadBlock.h"
+#include "model/ZukenPCBParser.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The tree of an input file, which has to be readable.
+inline io::CBlock BlockOf(std::string_view text) {
+    io::CDelimiter_grammar grammar("()");
+    grammar.CommentCharSet(";");
+    io::CToken_istream stream(text, grammar, io::CToken_istream::k_Expressions);
+    io::CBlock block("file");
+    EXPECT_TRUE(io::ReadBlock(stream, block)) << text;
+    return block;
+}
+
+/// The first list of `text`.
+inline io::CBlock_func ListOf(std::string_view text) {
+    const io::CBlock block = BlockOf(text);
+    EXPECT_GT(block.Size(), 0) << text;
+    return *block.Funcs().begin();
+}
+
+/// The model of a board file and a footprint file that have been read.
+class BoardOf : public ZukenPCBParser {
+public:
+    explicit BoardOf(std::string_view pcf, std::string_view ftf = "") : ZukenPCBParser(BlockOf(ftf), BlockOf(pcf)) {
+        EXPECT_TRUE(Parse(LongFileName()));
+    }
+};
+
+/// The stackup, top to bottom.
+inline std::vector<Layer*> LayersOf(const ZukenPCBParser& parser) {
+    std::vector<Layer*> layers;
+    const int count = parser.GetConductiveLayers(layers);
+    EXPECT_EQ(count, static_cast<int>(layers.size()));
+    return layers;
+}
+
+/// A board file with one layer for each of the numbers 1 to `count`.
+inline std::string BoardWithLayers(int count) {
+    std::string text = "(pcf b (technologyContainer (technology t (conductiveLayer";
+    for (int number = 1; number <= count; ++number)
+        text += " (layerNumber " + std::to_string(number) + ")";
+    return text + "))))";
+}
+
+#endif
