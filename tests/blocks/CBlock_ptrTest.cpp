@@ -9,6 +9,14 @@
 namespace io {
 namespace {
 
+/// A func "a" of which no other pointer is left.
+CBlock_ptr<CBlock_func> NewFunc() {
+    CToken_istream stream = ListStream("a)");
+    CBlock_ptr<CBlock_func> func;
+    ReadFunc(stream, func);
+    return func;
+}
+
 TEST(CBlock_ptrTest, TheDefaultHoldsNothing) {
     CBlock_ptr<CBlock_func> pointer;
     EXPECT_EQ(pointer.Item(), nullptr);
@@ -55,7 +63,7 @@ TEST(CBlock_ptrTest, AMoveTakesTheObjectOver) {
 }
 
 TEST(CBlock_ptrTest, TheArrowReachesTheVirtualOperations) {
-    CBlock_ptr<CBlock_func> pointer(new CBlock_func("a"));
+    CBlock_ptr<CBlock_func> pointer = NewFunc();
     pointer->Name("b");
     const CBlock_ptr<CBlock_item> item(pointer);
     EXPECT_EQ(item->Name().QRL_ANSI(), "b");
@@ -88,7 +96,7 @@ TEST(CBlock_ptrTest, ACheckedCastSharesTheObject) {
 }
 
 TEST(CBlock_ptrTest, ACopyOfTheObjectHasACountOfItsOwn) {
-    const CBlock_ptr<CBlock_func> pointer(new CBlock_func("a"));
+    const CBlock_ptr<CBlock_func> pointer = NewFunc();
     const CBlock_ptr<CBlock_func> second = pointer;
     {
         const CBlock_ptr<CBlock_func> copy(new CBlock_func(*pointer.Item()));

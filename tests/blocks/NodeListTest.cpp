@@ -106,6 +106,17 @@ TEST(NodeListTest, APaddedWordIsKeptWithoutItsPadding) {
     EXPECT_EQ(NodesOf(nodes), "word1 1 word##########1 word###########3 ");
 }
 
+TEST(NodeListTest, APaddedNameIsKeptWithoutItsPadding) {
+    const std::string padded = "name" + std::string(30, '#');
+    NodeList nodes(NodeKind::k_Func, "root");
+    for (const size_t size : {4U, 0U, 10U, 11U})
+        nodes.OpenPadded(std::string_view(padded).substr(0, size));
+    nodes.AppendText(NodeKind::k_Word, "x");
+    while (nodes.HasOpen())
+        nodes.Close();
+    EXPECT_EQ(NodesOf(nodes), "name7 6 name######5 name#######4 x1 ") << "the last name takes three nodes";
+}
+
 TEST(NodeListTest, ACopySharesTheNodesUntilOneChanges) {
     NodeList nodes(NodeKind::k_Func, "root");
     nodes.AppendText(NodeKind::k_Word, "x");
@@ -174,6 +185,31 @@ TEST(NodeListTest, MemoryForGrowthCanBeGivenBack) {
     EXPECT_LT(nodes.GetMemory(), 1011 * sizeof(Node));
     nodes.AppendText(NodeKind::k_Word, "y");
     EXPECT_EQ(nodes.GetEnd() - nodes.GetRoot(), 1002);
+}
+
+TEST(NodeListTest, AListThatGrowsLargeKeepsItsNodes) {
+    constexpr int k_Count = 1000000;
+    for (const size_t expected : {size_t{0}, size_t{100}, size_t{2} * k_Count, size_t{64} * k_Count}) {
+        NodeList nodes(NodeKind::k_Func, "root");
+        nodes.ExpectText(expected);
+        for (int i = 0; i < k_Count; ++i)
+            nodes.Append(Node::OfInt(i));
+        nodes.ShrinkToFit();
+        EXPECT_LT(nodes.GetMemory(), (k_Count + 10) * sizeof(Node));
+        int wrong = 0;
+        for (int i = 0; i < k_Count; ++i)
+            wrong += nodes.GetRoot()[1 + i].GetInt() == i ? 0 : 1;
+        EXPECT_EQ(wrong, 0) << expected;
+        EXPECT_EQ(nodes.GetEnd() - nodes.GetRoot(), 1 + k_Count);
+    }
+}
+
+TEST(NodeListTest, WhatIsExpectedOfASmallListTakesNoMemory) {
+    NodeList nodes(NodeKind::k_Func, "root");
+    nodes.ExpectText(size_t{1} << 40);
+    for (int i = 0; i < 100; ++i)
+        nodes.Append(Node::OfInt(i));
+    EXPECT_LT(nodes.GetMemory(), 300 * sizeof(Node));
 }
 
 TEST(NodeListTest, ASharedListIsNotMovedToGiveMemoryBack) {
