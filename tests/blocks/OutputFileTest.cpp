@@ -260,6 +260,17 @@ TEST(OutputFileTest, APipeIsWrittenStraightTo) {
     EXPECT_EQ(folder.List(), Names{"pipe"});
 }
 
+TEST(OutputFileTest, APipeWithoutANameIsWrittenToByWayOfItsDescriptor) {
+    int ends[2] = {};
+    ASSERT_EQ(pipe(ends), 0);
+    EXPECT_EQ(WriteFile("/proc/self/fd/" + std::to_string(ends[1]), "x"), "");
+    char received = '\0';
+    EXPECT_EQ(read(ends[0], &received, 1), 1);
+    EXPECT_EQ(received, 'x');
+    close(ends[0]);
+    close(ends[1]);
+}
+
 TEST(OutputFileTest, APipeThatNobodyReadsAnyMoreFails) {
     const TemporaryFolder folder;
     const std::string path = folder.PathOf("pipe");
