@@ -1,12 +1,14 @@
 """Standard streams that are closed, full or gone: what is said is lost, the output isn't."""
 
 import os
+import select
 import subprocess
 import unittest
 
 from program_case import BOARD, NO_OUTLINE, ProgramCase, missing
 
 BROKEN = b"((\n"
+PATIENCE_SECONDS = 20
 
 
 class StreamsTest(ProgramCase):
@@ -67,8 +69,9 @@ class StreamsTest(ProgramCase):
         self.put_board()
         reader, writer = os.pipe()
         started = subprocess.Popen([self.program, "board.pcf"], stdin=reader, cwd=self.folder)
+        self.addCleanup(started.kill)
         os.close(reader)
-        self.assertEqual(started.wait(timeout=60), 0)
+        self.assertEqual(started.wait(timeout=PATIENCE_SECONDS), 0)
         os.close(writer)
         self.assertEqual(self.files()[b"board.qrl"], self.output_of())
 
@@ -76,10 +79,12 @@ class StreamsTest(ProgramCase):
         self.put_board(pcf=None, txt=None)
         os.mkfifo(self.path("board.pcf"))
         started = subprocess.Popen([self.program, "board.pcf"], cwd=self.folder, stdout=subprocess.PIPE)
+        self.addCleanup(started.kill)
+        self.assertTrue(select.select([started.stdout], [], [], PATIENCE_SECONDS)[0], "nothing is said")
         self.assertEqual(started.stdout.readline(), missing(b"TXT", "board.txt"))
         with open(self.path("board.pcf"), "wb") as file:
             file.write(BOARD)
-        self.assertEqual(started.communicate(timeout=60)[0], b"")
+        self.assertEqual(started.communicate(timeout=PATIENCE_SECONDS)[0], b"")
         self.assertEqual(self.files()[b"board.qrl"], self.output_of())
 
 
