@@ -23,7 +23,12 @@ public:
     template <class Other>
     explicit CBlock_ptr(const CBlock_ptr<Other>& other)
         : CBlock_ptr(dynamic_cast<T*>(const_cast<Other*>(other.Item()))) {}
-    CBlock_ptr& operator=(CBlock_ptr other) noexcept {
+    CBlock_ptr& operator=(const CBlock_ptr& other) {
+        CBlock_ptr share(other);
+        std::swap(m_Item, share.m_Item);
+        return *this;
+    }
+    CBlock_ptr& operator=(CBlock_ptr&& other) noexcept {
         std::swap(m_Item, other.m_Item);
         return *this;
     }

@@ -30,6 +30,11 @@ bool CStreamio_object::Unpack(const AString& text) {
     return whole.GetRest().empty();
 }
 
+void CStreamio_object::Release(const CStreamio_object* object) {
+    if (object != nullptr && --object->m_References == 0)
+        delete object;
+}
+
 size_t CStreamio_object::BinarySize(const CAbstract_ostream& /*stream*/) const { return BinaryPack().size(); }
 
 } // namespace io

@@ -43,10 +43,7 @@ public:
 
     void AddReference() const { ++m_References; }
     /// Takes back one `AddReference`, and deletes the object with the last one. Null is ignored.
-    static void Release(const CStreamio_object* object) {
-        if (object != nullptr && --object->m_References == 0)
-            delete object;
-    }
+    static void Release(const CStreamio_object* object);
 
 private:
     mutable uint32_t m_References = 0;

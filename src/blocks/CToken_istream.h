@@ -81,7 +81,7 @@ public:
     /// Consumes the next token; the empty one at the end.
     Token ReadToken();
 
-    std::string_view GetRest() const override { return {m_At, static_cast<size_t>(GetEnd() - m_At)}; }
+    std::string_view GetRest() const final { return {m_At, static_cast<size_t>(GetEnd() - m_At)}; }
     void Advance(size_t count) override { MoveTo(m_At + count); }
 
 private:

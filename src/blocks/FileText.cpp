@@ -14,7 +14,7 @@ namespace io {
 
 namespace {
 
-constexpr size_t k_FirstSize = 64 * 1024; ///< for what doesn't tell its size, such as a pipe
+constexpr size_t k_FirstSize = size_t{64} * 1024; ///< for what doesn't tell its size, such as a pipe
 
 /// Closes the file at the end of a scope.
 class Descriptor {

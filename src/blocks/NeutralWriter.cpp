@@ -12,7 +12,7 @@ namespace io {
 
 namespace {
 
-constexpr size_t k_BufferSize = 256 * 1024;
+constexpr size_t k_BufferSize = size_t{256} * 1024;
 
 /// The node behind `node` and any that stand for nothing.
 const Node* SkipNothing(const Node* node, const Node* end) {

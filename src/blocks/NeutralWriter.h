@@ -37,10 +37,10 @@ public:
 private:
     /// A block or func that is being written.
     struct Frame {
-        const Node* m_Next;
-        const Node* m_End;
-        size_t m_Depth; ///< of the line on which the name stands
-        bool m_IsBlock;
+        const Node* m_Next = nullptr;
+        const Node* m_End = nullptr;
+        size_t m_Depth = 0; ///< of the line on which the name stands
+        bool m_IsBlock = false;
         bool m_IsFirst = true;   ///< no argument has been written yet
         bool m_IsBroken = false; ///< each further argument takes a line of its own
     };

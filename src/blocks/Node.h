@@ -53,7 +53,7 @@ public:
     int GetInt() const { return Load<int32_t>(k_ValueAt); }
     double GetDouble() const { return Load<double>(k_ValueAt); }
     bool GetBool() const { return Load<bool>(k_ValueAt); }
-    CStreamio_object* GetReference() const { return Load<CStreamio_object*>(k_ValueAt); }
+    CStreamio_object* GetReference() const { return static_cast<CStreamio_object*>(Load<void*>(k_ValueAt)); }
 
     /// How many nodes the text takes, this one included.
     size_t GetOwnNodes() const { return 1 + (m_TextSize == k_LongText ? NodesForLongText(GetLongSize()) : 0); }
@@ -75,7 +75,7 @@ public:
     static Node OfInt(int32_t value) { return OfValue(NodeKind::k_Int, value); }
     static Node OfDouble(double value) { return OfValue(NodeKind::k_Double, value); }
     static Node OfBool(bool value) { return OfValue(NodeKind::k_Bool, value); }
-    static Node OfReference(CStreamio_object* target) { return OfValue(NodeKind::k_Reference, target); }
+    static Node OfReference(void* target) { return OfValue(NodeKind::k_Reference, target); }
 
     /// A node of `kind` whose text is `text` when that is at most `room` bytes long; otherwise its text is to be put
     /// behind it with `PutLongText`.

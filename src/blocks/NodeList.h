@@ -22,8 +22,7 @@ class NodeList {
 public:
     /// A tree of a root without children. `rootKind` is a func or a block.
     NodeList(NodeKind rootKind, std::string_view name);
-    NodeList(const NodeList& other) : m_Storage(other.m_Storage) { ++m_Storage->m_Users; }
-    NodeList(NodeList&& other) noexcept : NodeList(std::as_const(other)) {}
+    NodeList(const NodeList& other) noexcept : m_Storage(other.m_Storage) { ++m_Storage->m_Users; }
     NodeList& operator=(NodeList other) noexcept {
         std::swap(m_Storage, other.m_Storage);
         return *this;
@@ -86,6 +85,7 @@ public:
     /// a blank among them. Memory for a large tree is then set aside at once; what isn't used of it costs nothing, and
     /// `ShrinkToFit` gives it back.
     void ExpectText(size_t size);
+    /// Gives back the memory that was set aside for growth.
     void ShrinkToFit();
 
 private:

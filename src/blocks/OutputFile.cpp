@@ -29,7 +29,7 @@ std::string FollowLinks(std::string path) {
         if (size < 0)
             break;
         const std::string next(target, static_cast<size_t>(size));
-        path = next.starts_with('/') ? next : FolderOf(path) + next;
+        path = next.starts_with('/') ? next : FolderOf(path).append(next);
     }
     return path;
 }
