@@ -2,6 +2,9 @@
 #define QRL_LIB_MATH_GEOMETRY_AREA_H
 
 #include "lib/math/geometry/Unit.h"
+#include "lib/utils/Assert.h"
+
+#include <cmath>
 
 namespace geom {
 
@@ -49,6 +52,17 @@ inline constexpr Area k_InfiniteArea{double(k_InfiniteUnit)};
 constexpr Area& Area::operator+=(Area other) {
     m_Value += other.m_Value;
     return *this;
+}
+
+inline Unit Area::GetSquareRoot() const {
+    QRL_ASSERT("Area", "m_Value >= 0", m_Value >= 0);
+    if (0 >= m_Value)
+        return k_Unit_0;
+    if (m_Value == 1)
+        return 1;
+    if (m_Value == 4)
+        return 2;
+    return std::sqrt(m_Value);
 }
 
 constexpr Area operator*(Unit a, Unit b) { return Area(double(a) * double(b)); }

@@ -74,6 +74,25 @@ inline constexpr Azimuth k_SouthWest{k_Degrees, 225};
 inline constexpr Azimuth k_South{k_Degrees, 270};
 inline constexpr Azimuth k_SouthEast{k_Degrees, 315};
 
+inline Angle Azimuth::GetAngleTo(Azimuth to, Direction direction) const {
+    QRL_ASSERT("Azimuth", "direction == k_CW || direction == k_CCW", direction == k_CW || direction == k_CCW);
+    const Angle turn = (to.GetAngle() - GetAngle()).GetNormalised(k_Angle_0);
+    return turn > k_Angle_0 && direction == k_CW ? turn - k_Angle_360 : turn;
+}
+
+inline Angle Azimuth::GetShortestAngleTo(Azimuth to) const {
+    const Angle ccw = GetAngleTo(to, k_CCW);
+    const Angle cw = -GetAngleTo(to, k_CW);
+    return ccw > cw ? cw : ccw;
+}
+
+inline Angle Azimuth::GetSignedShortestAngleTo(Azimuth to) const {
+    const Angle ccw = GetAngleTo(to, k_CCW);
+    const Angle cw = -GetAngleTo(to, k_CW);
+    QRL_ASSERT("Azimuth", "ccw >= k_Angle_0 && cw >= k_Angle_0", ccw >= k_Angle_0 && cw >= k_Angle_0);
+    return cw > ccw ? ccw : -cw;
+}
+
 } // namespace geom
 
 #endif

@@ -56,6 +56,9 @@ public:
     Point GetRadicalPoint(const Circle& other) const;
 
 private:
+    CircleLineResult GetIntersectionAcross(const Line& line, Unit accuracy) const;
+    CircleLineResult GetIntersectionSteep(const Line& line, Unit accuracy) const;
+
     Point m_Center;
     Unit m_Radius;
 };

@@ -1,6 +1,7 @@
 #ifndef QRL_LIB_MATH_GEOMETRY_UNIT_H
 #define QRL_LIB_MATH_GEOMETRY_UNIT_H
 
+#include "lib/utils/Assert.h"
 #include "lib/utils/Modulo.h"
 
 #include <cfloat>
@@ -53,6 +54,14 @@ inline constexpr Unit k_Unit_0{0};
 inline constexpr Unit k_NullUnit{0}; ///< the lower bound of what is a distance: expansions, running minima
 inline constexpr Unit k_Unit_1{1};
 inline constexpr Unit k_InfiniteUnit{DBL_MAX / 1000000}; ///< "nowhere"; leaves room to reckon with it
+
+inline Unit Unit::GetEpsilon() const {
+    QRL_ASSERT("Unit", "base::GetAbsOf_T (*this) <= DBL_MAX / 1000000 * 1001", GetAbs() <= k_InfiniteUnit * 1001);
+    Unit lastPlace = GetAbs() * DBL_EPSILON;
+    if (lastPlace == k_Unit_0)
+        lastPlace = DBL_MIN;
+    return lastPlace * 1000;
+}
 
 } // namespace geom
 
