@@ -125,17 +125,18 @@ public:
     /// The rest of the circle, from the end on to the start in the same sense. A full circle leaves the point at its
     /// start. A straight piece is reported.
     Arc GetComplement() const;
+    /// The same curve from another start: any arc but a full circle keeps its end and its height, a full circle moves.
+    Arc GetWithStart(Point start) const;
     /// The part between two fractions of the way, travelled backwards when `t1` is above `t2`. Both the same: a point.
     Arc GetSubArc(double t1, double t2) const;
 
 private:
-    bool HasEqualEnds() const { return m_Start == m_End; }
     bool IsHalfCircle() const;
     void CloseAround(Point center, Direction direction);
     void BendAround(Point center, Direction direction);
     Azimuth GetRadialTo(Point end) const;
-    Azimuth GetTangentOf(Azimuth radial) const;
-    Box GetQuadrantBox() const;
+    Azimuth GetTangentAt(Point end) const;
+    Box GetCurvedBox() const;
 
     Point m_Start;
     Point m_End;
@@ -147,6 +148,14 @@ private:
 struct ArcResult {
     std::uint32_t m_Success = 0;
     Arc m_Arc; ///< holds when m_Success is 1
+};
+
+/// No, one or two arcs, filled from the front: what two circumferences have in common.
+struct ArcPairResult {
+    std::uint32_t m_Success1 = 0;
+    Arc m_Arc1; ///< holds when m_Success1 is 1; a common point is point-like, coinciding ones give a full circle
+    std::uint32_t m_Success2 = 0;
+    Arc m_Arc2; ///< holds when m_Success2 is 1
 };
 
 inline bool Arc::IsCCW() const {

@@ -57,7 +57,8 @@ public:
     ArcPairResult GetIntersections(const Circumference& other, Unit accuracy) const;
 
     /// The centre of a circle of `radius` that touches both outlines, from outside where the side flag is set and from
-    /// inside otherwise. Of the two there are, `direction` picks one; without two there is no success.
+    /// inside otherwise. Of the two there are, k_CCW as `direction` picks the one on the left of the way from this
+    /// centre to the other and k_CW that on its right; without two there is no success.
     PointResult GetTangentCenter(
         bool side1, const Circumference& other, bool side2, Unit radius, Direction direction) const;
     /// The centre of a circle of `radius` that touches the outline, from outside when `side1` is set, and the line, on

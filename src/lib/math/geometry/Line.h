@@ -70,8 +70,8 @@ public:
     /// The centre of a circle of `radius` that touches both lines: on the right of a line whose side flag is set, on
     /// its left otherwise. A negative radius and parallel lines are reported.
     Point GetOffsetIntersection(bool side1, const Line& other, bool side2, Unit radius) const;
-    /// The arc of `radius` between the points where its circle touches this line and `other`; sides as above. Without
-    /// `same_sense` it takes the other way round.
+    /// The arc of `radius` from the point where its circle touches this line to the one on `other`; sides as above.
+    /// It rounds the corner; with `same_sense`, which turns as its two ends and the corner do, it goes the long way.
     Arc GetFilletArc(bool side1, const Line& other, bool side2, Unit radius, bool same_sense) const;
 
     /// Where the two lines run together, up to `accuracy`, inside the square of half side `size` about the origin.
