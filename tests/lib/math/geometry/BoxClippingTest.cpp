@@ -98,7 +98,7 @@ TEST(BoxClippingTest, RoundingToAndFroBetweenTwoBordersEndsAtTheCorner) {
 }
 
 TEST(BoxClippingTest, AMissByRoundingAloneGivesOneAndZero) {
-    // With a accuracy of half a unit in the last place of 1, the box reaches s - a = 1 but not s: 1 + a is 1.
+    // With an accuracy of half a unit in the last place of 1, the box reaches s - a = 1 but not s: 1 + a is 1.
     const AssertionRecorder recorder;
     const double s = fixtures::Up(1);
     const double accuracy = (s - 1) / 2;

@@ -412,6 +412,12 @@ TEST(BoxTest, IntersectsASegmentWithinAnAccuracy) {
     EXPECT_FALSE(k_SquareBox.IntersectsSegment(SegmentOf("11.5,1 12,9"), 1));
 }
 
+TEST(BoxTest, ASegmentThatMissesByRoundingAloneIsBeyondTheSide) {
+    // With an accuracy of half a unit in the last place of 1, s - accuracy is 1, but 1 + accuracy is not s.
+    const double s = Up(1);
+    EXPECT_FALSE(BoxOf("0,0 1,10").IntersectsSegment({{s, 5}, {2, 6}}, (s - 1) / 2));
+}
+
 TEST(BoxTest, APointLikeSegmentMeetsABoxAsAPoint) {
     EXPECT_TRUE(k_SquareBox.IntersectsSegment(SegmentOf("10,10 10,10"), 0));
     EXPECT_FALSE(k_SquareBox.IntersectsSegment(SegmentOf("11,10 11,10"), 0));

@@ -173,7 +173,9 @@ TEST(CircleTest, ALineOutsideGivesNothing) {
 
 TEST(CircleTest, ALineThatIsNoNumberGivesNothing) {
     const AssertionRecorder recorder; // such a line is reported where it is made
-    ExpectNoChord(k_Five.GetIntersection(Line({fixtures::k_NaN, 0}, {1, 1}), 0));
+    const Line noLine({fixtures::k_NaN, 0}, {1, 1});
+    ExpectNoChord(k_Five.GetIntersection(noLine, 0));
+    ExpectNoChord(Circle({0, 0}, 2e302).GetIntersection(noLine, 0));
 }
 
 TEST(CircleTest, ARadiusOfZeroGivesOnePointOnALineThroughTheCentre) {

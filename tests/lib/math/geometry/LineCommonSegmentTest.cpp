@@ -124,6 +124,18 @@ TEST(LineCommonSegmentTest, ASegmentThatCrossesSharesTheCrossing) {
     ExpectSegment(k_XAxis.GetCommonSegment(SegmentOf("3,-5 3,5"), 1), SegmentOf("3,0 3,0"), 0);
 }
 
+TEST(LineCommonSegmentTest, ASegmentThatOnlyRoundingTakesAcrossTheLineIsReported) {
+    // Its line gets the very normal of the first line, and so never crosses it; but its ends get different signs.
+    const AssertionRecorder recorder;
+    const double t = 876.4;
+    const Line line({0, 0.7}, {3, 1.7});
+    const Segment segment({t * 3, t + 0.7}, {t * 3 + 6, t + 0.7 + 2});
+    const SegmentResult result = line.GetCommonSegment(segment, 0);
+    EXPECT_EQ(result.m_Success, 0U);
+    EXPECT_EQ(result.m_Segment, Segment());
+    EXPECT_EQ(recorder.Take(), Texts{"r0.m_Success, Line"});
+}
+
 TEST(LineCommonSegmentTest, ASegmentThatCrossesAtASmallAngleSharesAPieceInItsDirection) {
     // Rises by 0.01 at each unit: within 0.1 of the axis from -10 to 10 around the crossing, on the bisector.
     const Segment segment({-50, -0.5}, {50, 0.5});

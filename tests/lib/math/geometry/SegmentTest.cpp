@@ -122,8 +122,11 @@ TEST(SegmentTest, AFootThatRoundingBringsBesideTheSegmentIsReported) {
     const Segment segment({0, 0}, {1e-5, 1e-5 * -15});
     const Point far(9977.851592, 665.189907);
     ASSERT_NEAR(segment.GetParameter(far), 1.32, 0.01);
+    const Texts expected = {"offset >= -0.1 && offset <= 1.1, Segment"};
     EXPECT_EQ(segment.GetNearestPoint(far), segment.GetEnd());
-    EXPECT_EQ(recorder.Take(), Texts{"offset >= -0.1 && offset <= 1.1, Segment"});
+    EXPECT_EQ(recorder.Take(), expected);
+    EXPECT_EQ(segment.GetReversed().GetNearestPoint(far), segment.GetEnd());
+    EXPECT_EQ(recorder.Take(), expected);
 }
 
 TEST(SegmentTest, BisectorRunsClockwiseAcross) {
