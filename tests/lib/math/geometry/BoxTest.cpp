@@ -317,6 +317,13 @@ TEST(BoxTest, EveryFailingSideAloneMakesACrossing) {
         EXPECT_EQ(k_SquareBox.GetRelationTo(BoxOf(other), 0), k_BoxCrossing) << other;
 }
 
+TEST(BoxTest, EveryOneOfTheFourSidesHasToClearTheAccuracy) {
+    for (const char* other : {"-1,-2 12,12", "-2,-1 12,12", "-2,-2 11,12", "-2,-2 12,11"})
+        EXPECT_EQ(k_SquareBox.GetRelationTo(BoxOf(other), 1), k_BoxCrossing) << other;
+    for (const char* other : {"1,2 8,8", "2,1 8,8", "2,2 9,8", "2,2 8,9"})
+        EXPECT_EQ(k_SquareBox.GetRelationTo(BoxOf(other), 1), k_BoxCrossing) << other;
+}
+
 struct CrossingCase {
     const char* m_Name;
     const char* m_Line;
@@ -354,6 +361,19 @@ TEST(BoxTest, IntersectsALineWithinAnAccuracy) {
     EXPECT_FALSE(k_SquareBox.IntersectsLine(LineOf("0,11.5 1,11.5"), 1));
     EXPECT_TRUE(k_SquareBox.IntersectsLine(LineOf("-1,0 -1,1"), 1));
     EXPECT_FALSE(k_SquareBox.IntersectsLine(LineOf("-1.5,0 -1.5,1"), 1));
+}
+
+TEST(BoxTest, ALineMayMeetACornerOfTheExpandedBoxAlone) {
+    for (const char* line : {"-0.75,-1 -1.75,1", "10.75,11 11.75,9", "-1,-0.75 1,-1.75", "11,10.75 9,11.75"}) {
+        EXPECT_TRUE(k_SquareBox.IntersectsLine(LineOf(line), 1)) << line;
+        EXPECT_FALSE(k_SquareBox.IntersectsLine(LineOf(line), 0)) << line;
+    }
+}
+
+TEST(BoxTest, ALineThatTouchesACornerMeetsTheBox) {
+    // At |a| = |b| and c = 0 the coordinates on the line are exact.
+    EXPECT_TRUE(BoxOf("2,5 5,9").IntersectsLine(LineOf("0,0 1,1"), 0));
+    EXPECT_TRUE(BoxOf("2,-9 5,-5").IntersectsLine(LineOf("0,0 1,-1"), 0));
 }
 
 TEST(BoxTest, AThinBoxMeetsALineAsASegment) {
@@ -410,6 +430,8 @@ TEST(BoxTest, IntersectsASegment) {
 TEST(BoxTest, IntersectsASegmentWithinAnAccuracy) {
     EXPECT_TRUE(k_SquareBox.IntersectsSegment(SegmentOf("11,1 12,9"), 1));
     EXPECT_FALSE(k_SquareBox.IntersectsSegment(SegmentOf("11.5,1 12,9"), 1));
+    for (const char* segment : {"5,10.5 6,19", "6,19 5,10.5", "5,-0.5 6,-9", "-0.5,5 -9,6", "10.5,5 19,6"})
+        EXPECT_TRUE(k_SquareBox.IntersectsSegment(SegmentOf(segment), 1)) << segment;
 }
 
 TEST(BoxTest, ASegmentThatMissesByRoundingAloneIsBeyondTheSide) {

@@ -162,6 +162,13 @@ TEST(CircleTest, ATangentWithinTheAccuracyHasEqualEndsAtTheFootOfTheCentre) {
     ExpectChord(k_Five.GetIntersection(LineOf("0,5.5 1,5.5"), 1), SegmentOf("0,5.5 0,5.5"));
 }
 
+TEST(CircleTest, TheFootOnASlopedTangentIsTheProjectionItself) {
+    const Line tangent = LineOf("5.5,0 5.6,7");
+    const Segment foot = k_Five.GetIntersection(tangent, 1).m_Segment;
+    EXPECT_EQ(BitsOf(foot.GetStart()), BitsOf(tangent.GetProjection({0, 0})));
+    EXPECT_EQ(BitsOf(foot.GetEnd()), BitsOf(tangent.GetProjection({0, 0})));
+}
+
 TEST(CircleTest, ALineJustInsideGivesItsChordWhateverTheAccuracy) {
     ExpectChord(k_Five.GetIntersection(LineOf("4,0 4,1"), 2), SegmentOf("4,-3 4,3"));
 }

@@ -134,6 +134,7 @@ TEST(CircumferenceTest, IntersectsASegment) {
     // clang-format off
     const SegmentCase rows[] = {
         {"from inside out",               "0,0 9,0",       0,   true},
+        {"from outside in",               "9,0 0,0",       0,   true},
         {"start on it",                   "3,4 9,9",       0,   true},
         {"end on it",                     "0,0 3,4",       0,   true},
         {"inside",                        "-1,-1 2,2",     0,   false},

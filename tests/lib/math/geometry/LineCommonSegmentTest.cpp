@@ -29,6 +29,11 @@ TEST(LineCommonSegmentTest, LinesCloserThanTheAccuracyRunTogetherAllAlong) {
     ExpectSegment(k_XAxis.GetCommonSegment(LineOf("0,0.5 1,0.5"), 10, 1), SegmentOf("-11,0.25 11,0.25"), 0);
 }
 
+TEST(LineCommonSegmentTest, ThePieceLiesInTheMiddleOfBothLines) {
+    ExpectSegment(LineOf("0,1 1,1").GetCommonSegment(LineOf("0,1.5 1,1.5"), 10, 1), SegmentOf("-11,1.25 11,1.25"), 0);
+    ExpectSegment(LineOf("1,0 1,1").GetCommonSegment(LineOf("1.5,0 1.5,1"), 10, 1), SegmentOf("1.25,-11 1.25,11"), 0);
+}
+
 TEST(LineCommonSegmentTest, TheOtherLinesDirectionDoesNotMatter) {
     ExpectSegment(k_XAxis.GetCommonSegment(LineOf("1,0.5 0,0.5"), 10, 1), SegmentOf("-11,0.25 11,0.25"), 0);
     ExpectSegment(LineOf("1,0 0,0").GetCommonSegment(LineOf("0,0.5 1,0.5"), 10, 1), SegmentOf("11,0.25 -11,0.25"), 0);

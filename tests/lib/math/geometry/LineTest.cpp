@@ -214,6 +214,9 @@ TEST(LineTest, Intersections) {
 TEST(LineTest, IntersectionIsComputedInAFixedOrder) {
     const Point point = LineOf("0.1,0.2 7.3,2.9").GetIntersection(LineOf("1.7,-3.1 2.3,9.7"));
     EXPECT_EQ(BitsOf(point), BitsOf(Point(0x1.e2d65e41c1805p+0, 0x1.bd53f9e484536p-1)));
+    // Here the refinement moves both coordinates, for either line by itself.
+    const Point refined = LineOf("-8.6,-8.5 -2.9,-5.5").GetIntersection(LineOf("1.2,-4.2 4.7,1.8"));
+    EXPECT_EQ(BitsOf(refined), BitsOf(Point(0x1.ec12259701f1bp+0, -0x1.7b23a5440cf64p+1)));
 }
 
 struct MeetingCase {

@@ -226,6 +226,9 @@ TEST(SegmentTest, WhatLiesAtInfinityHasNoFoot) {
     EXPECT_FALSE(k_RightwardSegment.ProjectsInto({k_InfiniteUnit, k_InfiniteUnit}, 0));
     EXPECT_FALSE(k_RightwardSegment.ProjectsInto({5, k_InfiniteUnit}, 0));
     EXPECT_FALSE(k_RightwardSegment.ProjectsInto({fixtures::k_NaN, 0}, 0));
+    // One distance out of range is enough: to the far end only, and to the far start only.
+    EXPECT_FALSE(Segment({0, 0}, {1e200, 0}).ProjectsInto({0, 1}, 0));
+    EXPECT_FALSE(Segment({1e200, 0}, {0, 0}).ProjectsInto({0, 1}, 0));
 }
 
 struct MeetingCase {
@@ -280,6 +283,13 @@ TEST(SegmentTest, IntersectsWithinAnAccuracy) {
     EXPECT_TRUE(k_RightwardSegment.IntersectsWith(SegmentOf("0,1 10,1"), 1));
     EXPECT_FALSE(k_RightwardSegment.IntersectsWith(SegmentOf("0,1.5 10,1.5"), 1));
     EXPECT_TRUE(k_RightwardSegment.IntersectsWith(SegmentOf("10.5,0 12,0"), 1));
+    // One end alone within the accuracy: start or end, of the one or the other.
+    for (const Segment& upright : {SegmentOf("5,0.5 6,9"), SegmentOf("6,9 5,0.5")}) {
+        EXPECT_TRUE(k_RightwardSegment.IntersectsWith(upright, 1));
+        EXPECT_TRUE(upright.IntersectsWith(k_RightwardSegment, 1));
+        EXPECT_FALSE(k_RightwardSegment.IntersectsWith(upright, 0));
+        EXPECT_FALSE(upright.IntersectsWith(k_RightwardSegment, 0));
+    }
 }
 
 TEST(SegmentTest, CommonPointLiesHalfWayToTheSegment) {
