@@ -9,20 +9,24 @@ AvlPolyArcImplementation::Iterator::Iterator(
     const PolyArc* owner, const ArcTree& arcs, base::FilterMode filter_mode, const Box& filter)
     : m_TreeIterator(arcs.begin(filter_mode, filter)), m_Owner(owner) {
     if (!IsAtEnd() && !IsAccepted())
-        Step();
+        ++*this;
 }
 
-void AvlPolyArcImplementation::Iterator::Step() {
+const Arc& AvlPolyArcImplementation::Iterator::operator*() const {
     QRL_ASSERT("AvlPolyArcImplementation", "IsDereferenceable()", IsDereferenceable());
-    if (IsAtEnd())
-        return;
+    return *m_TreeIterator;
+}
+
+AvlPolyArcImplementation::Iterator& AvlPolyArcImplementation::Iterator::operator++() {
+    QRL_ASSERT("AvlPolyArcImplementation", "IsDereferenceable()", IsDereferenceable());
     do
         ++m_TreeIterator;
     while (!IsAtEnd() && !IsAccepted());
+    return *this;
 }
 
 bool AvlPolyArcImplementation::Iterator::IsDereferenceable() const {
-    return m_Owner && m_Owner->HasImplementation() && !IsAtEnd();
+    return !IsAtEnd() && m_Owner && m_Owner->HasImplementation();
 }
 
 bool AvlPolyArcImplementation::Iterator::IsAccepted() const {
@@ -31,7 +35,7 @@ bool AvlPolyArcImplementation::Iterator::IsAccepted() const {
     if (filter_mode == base::k_NoFilter)
         return true;
     const Box& filter = m_TreeIterator.GetFilter();
-    const Arc& arc = GetArc();
+    const Arc& arc = *m_TreeIterator;
     if (filter_mode == base::k_SkipOutside)
         return arc.GetLooseBox().Intersects(filter) && arc.IntersectsBox(filter, k_NullUnit);
     QRL_ASSERT("AvlPolyArcImplementation", "filter_mode == base::k_SkipInside", filter_mode == base::k_SkipInside);

@@ -44,17 +44,18 @@ public:
     /// The first arc of `owner`, whose tree is `arcs`, that the filter lets through.
     Iterator(const PolyArc* owner, const ArcTree& arcs, base::FilterMode filter_mode, const Box& filter);
 
-    const Arc& GetArc() const { return *m_TreeIterator; }
-    const PolyArc* GetOwner() const { return m_Owner; }
-    /// Moves on to the next arc that the filter lets through. The end is reported and stays.
-    void Step();
-    /// Whether it stands at an arc of a chain that is there.
+    /// Whether it stands at an arc of a chain that is there. An end doesn't ask its chain: copies share it, and may
+    /// outlive the one that made it.
     bool IsDereferenceable() const;
+    /// The arc. The end is reported and gives an arc of zeros.
+    const Arc& operator*() const;
+    /// Moves on to the next arc that the filter lets through. The end is reported and stays.
+    Iterator& operator++();
     /// Whether both stand at the same arc, or both at an end.
     bool operator==(const Iterator& other) const { return m_TreeIterator == other.m_TreeIterator; }
 
 private:
-    bool IsAtEnd() const { return m_TreeIterator == ArcTree::Iterator(); }
+    bool IsAtEnd() const { return !m_TreeIterator.GetNode(); }
     bool IsAccepted() const;
 
     ArcTree::Iterator m_TreeIterator; ///< with the filter

@@ -11,7 +11,7 @@ Area CircleSlice::GetArea() const {
     if (m_Arc.IsSegment(m_Arc.GetEpsilon()))
         return Triangle(start, m_Arc.GetMidPoint(), end).GetSignedArea();
     const Area ret = m_Arc.GetSectorArea() - Triangle(start, end, m_Arc.GetCenter()).GetSignedArea();
-    QRL_ASSERT("PolyArc", "m_Arc.IsBig() || ret.GetAbs() <= m_Arc.GetStartEndSegment().GetLengthSquare()",
+    QRL_ASSERT("CircleSlice", "m_Arc.IsBig() || ret.GetAbs() <= m_Arc.GetStartEndSegment().GetLengthSquare()",
         m_Arc.IsBig() || ret.GetAbs() <= m_Arc.GetStartEndSegment().GetLengthSquare());
     return ret;
 }

@@ -8,6 +8,7 @@
 #include "lib/utils/Assert.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace geom {
 
@@ -16,6 +17,7 @@ namespace {
 std::vector<Arc> ToArcs(OpenClosed open_closed, const std::vector<Point>& vertices) {
     QRL_ASSERT("PolyArc", "vertices.size() > 0", !vertices.empty());
     std::vector<Arc> arcs;
+    arcs.reserve(vertices.size());
     for (std::size_t i = 1; i < vertices.size(); ++i)
         arcs.emplace_back(Segment(vertices[i - 1], vertices[i]));
     const bool isOpenLoop = open_closed == k_Closed && !vertices.empty() && vertices.back() != vertices.front();
@@ -26,6 +28,7 @@ std::vector<Arc> ToArcs(OpenClosed open_closed, const std::vector<Point>& vertic
 
 std::vector<Arc> ToArcs(const std::vector<Segment>& segments) {
     std::vector<Arc> arcs;
+    arcs.reserve(segments.size());
     for (const Segment& segment : segments)
         arcs.emplace_back(segment);
     return arcs;
@@ -41,6 +44,10 @@ std::vector<Arc> ToArcs(const Circumference& circumference, Direction cw_ccw, Az
     if (circumference.IsPoint(k_NullUnit))
         return {Arc(Segment(circumference.GetCenter(), circumference.GetCenter()))};
     return {Arc(circumference, azimuth, cw_ccw)};
+}
+
+bool IsSameWithin(Unit accuracy, const Circumference& a, const Circumference& b) {
+    return a.GetCenter().IsEqualTo(b.GetCenter(), accuracy) && (a.GetRadius() - b.GetRadius()).GetAbs() <= accuracy;
 }
 
 template <class Change>
@@ -106,11 +113,9 @@ Point PolyArc::GetEnd() const {
 /// The triangles from the start to each chord add up to the polygon of the chords; each curved arc adds its slice.
 Area PolyArc::GetArea() const {
     QRL_ASSERT("PolyArc", "GetOpenClosed() == k_Closed", GetOpenClosed() == k_Closed);
-    Area area = k_Area_0;
-    if (empty())
-        return area;
     const Point start = GetStart();
-    for (const Arc& arc : GetArcs()) {
+    Area area = k_Area_0;
+    for (const Arc& arc : *this) {
         if (!arc.IsSegment(k_NullUnit))
             area += CircleSlice(arc).GetArea();
         area += Triangle(start, arc.GetStart(), arc.GetEnd()).GetSignedArea();
@@ -122,27 +127,25 @@ bool PolyArc::IsCircle(Unit accuracy, Circumference* circumference) const {
     if (empty())
         return false;
     if (GetArcCount() == 1)
-        return begin()->IsCircle(circumference);
+        return m_ImplRefCounter->GetFirst().IsCircle(circumference);
     if (GetOpenClosed() == k_Open && !GetStart().IsEqualTo(GetEnd(), accuracy))
         return false;
     return IsCircleOfSeveral(accuracy, circumference);
 }
 
 bool PolyArc::IsCircleOfSeveral(Unit accuracy, Circumference* circumference) const {
-    const std::vector<Arc> arcs = GetArcs();
-    if (arcs.front().GetHeight() == k_NullUnit)
+    const Implementation::ArcTree& arcs = m_ImplRefCounter->GetArcs();
+    auto arc = arcs.begin();
+    if (arc->GetHeight() == k_NullUnit)
         return false;
-    const Circumference first = arcs.front().GetCircumference();
-    const bool isFirstCCW = arcs.front().IsCCW();
-    const auto liesOnFirst = [&](const Arc& arc) {
-        if (arc.GetHeight() == k_NullUnit || arc.IsCCW() != isFirstCCW)
+    const Circumference first = arc->GetCircumference();
+    const bool isFirstCCW = arc->IsCCW();
+    for (++arc; arc != arcs.end(); ++arc) {
+        if (arc->GetHeight() == k_NullUnit || arc->IsCCW() != isFirstCCW)
             return false;
-        const Circumference own = arc.GetCircumference();
-        return own.GetCenter().IsEqualTo(first.GetCenter(), accuracy) &&
-               (own.GetRadius() - first.GetRadius()).GetAbs() <= accuracy;
-    };
-    if (!std::all_of(arcs.begin() + 1, arcs.end(), liesOnFirst))
-        return false;
+        if (!IsSameWithin(accuracy, arc->GetCircumference(), first))
+            return false;
+    }
     if (circumference)
         *circumference = first;
     return true;
@@ -187,13 +190,9 @@ PolyArc::Iterator PolyArc::begin(base::FilterMode filter_mode, const Box& box) c
 
 PolyArc::Iterator PolyArc::begin() const { return begin(base::k_NoFilter, k_UniverseBox); }
 
-/// A copy shares the end of the chain that it was made from. It is taken for its own only while it names this chain as
-/// the one it walks, which the other may no longer be.
 PolyArc::Iterator PolyArc::end() const {
     const IterationState fresh(m_ImplRefCounter.IsNull() ? nullptr : this);
-    const bool isOwn = !m_EndIterator.IsNull() && *m_EndIterator == fresh &&
-                       std::as_const(m_EndIterator)->GetOwner() == fresh.GetOwner();
-    if (!isOwn)
+    if (m_EndIterator.IsNull() || !(*m_EndIterator == fresh))
         m_EndIterator = base::RefCounter_T<IterationState>(new IterationState(fresh));
     return Iterator(m_EndIterator);
 }
@@ -201,10 +200,7 @@ PolyArc::Iterator PolyArc::end() const {
 const Arc& PolyArc::Iterator::operator*() const {
     QRL_ASSERT("PolyArc", "!m_ImplRefCounter.IsNull()", !m_ImplRefCounter.IsNull());
     static const Arc k_Nothing;
-    if (m_ImplRefCounter.IsNull())
-        return k_Nothing;
-    QRL_ASSERT("PolyArc", "IsDereferenceable()", m_ImplRefCounter->IsDereferenceable());
-    return m_ImplRefCounter->GetArc();
+    return m_ImplRefCounter.IsNull() ? k_Nothing : **m_ImplRefCounter;
 }
 
 PolyArc::Iterator& PolyArc::Iterator::operator++() {
@@ -212,7 +208,7 @@ PolyArc::Iterator& PolyArc::Iterator::operator++() {
     if (m_ImplRefCounter.IsNull())
         return *this;
     m_ImplRefCounter.MakeUnique();
-    m_ImplRefCounter->Step();
+    ++*m_ImplRefCounter;
     return *this;
 }
 

@@ -49,7 +49,7 @@ public:
     Point GetStart() const;
     Point GetEnd() const;
     /// The area inside a closed chain, positive when it runs counter-clockwise. An open chain is reported and summed as
-    /// if closed by a straight piece.
+    /// if closed by a straight piece; an empty one is reported and has none.
     Area GetArea() const;
     /// Whether the chain is one circle within `accuracy`: all arcs of one sense about one centre with one radius. What
     /// it lies on then goes to `circumference` unless that is null; of several arcs, the first one's.
@@ -64,7 +64,7 @@ public:
     PolyArc GetRotated(const Rotation& rotation) const;
 
     /// The first arc that the filter lets through: all arcs, those that meet `box`, or those whose box isn't strictly
-    /// inside `box`.
+    /// inside `box`. Of the last kind, one that touches the border of `box` from inside may be left out.
     Iterator begin(base::FilterMode filter_mode, const Box& box) const;
     Iterator begin() const;
     Iterator end() const;
