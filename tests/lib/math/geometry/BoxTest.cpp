@@ -432,6 +432,8 @@ TEST(BoxTest, IntersectsASegmentWithinAnAccuracy) {
     EXPECT_FALSE(k_SquareBox.IntersectsSegment(SegmentOf("11.5,1 12,9"), 1));
     for (const char* segment : {"5,10.5 6,19", "6,19 5,10.5", "5,-0.5 6,-9", "-0.5,5 -9,6", "10.5,5 19,6"})
         EXPECT_TRUE(k_SquareBox.IntersectsSegment(SegmentOf(segment), 1)) << segment;
+    EXPECT_TRUE(k_SquareBox.IntersectsSegment(SegmentOf("9.8,12 12,9.8"), 1)); // cuts the corner (11, 11)
+    EXPECT_FALSE(k_SquareBox.IntersectsSegment(SegmentOf("10.2,12 12,10.2"), 1));
 }
 
 TEST(BoxTest, ASegmentThatMissesByRoundingAloneIsBeyondTheSide) {

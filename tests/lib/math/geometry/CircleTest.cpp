@@ -171,6 +171,7 @@ TEST(CircleTest, TheFootOnASlopedTangentIsTheProjectionItself) {
 
 TEST(CircleTest, ALineJustInsideGivesItsChordWhateverTheAccuracy) {
     ExpectChord(k_Five.GetIntersection(LineOf("4,0 4,1"), 2), SegmentOf("4,-3 4,3"));
+    ExpectChord(CircleOf("0,0 r0.5").GetIntersection(LineOf("0.4,0 0.4,1"), 0.2), SegmentOf("0.4,-0.3 0.4,0.3"), 1e-16);
 }
 
 TEST(CircleTest, ALineOutsideGivesNothing) {
