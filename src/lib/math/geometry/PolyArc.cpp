@@ -92,9 +92,8 @@ std::vector<Arc> PolyArc::GetArcs() const {
     if (empty())
         return arcs;
     arcs.reserve(GetArcCount());
-    const Implementation::ArcTree& tree = m_ImplRefCounter->GetArcs();
-    for (auto arc = tree.begin(); arc != tree.end(); ++arc)
-        arcs.push_back(*arc);
+    for (const Arc& arc : m_ImplRefCounter->GetArcs())
+        arcs.push_back(arc);
     return arcs;
 }
 
