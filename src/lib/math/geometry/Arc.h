@@ -112,7 +112,8 @@ public:
     /// collinear with a border where the sweep is half a turn or more counts as met. `direction` is k_CCW or k_CW;
     /// anything else is reported.
     static bool IsInSweep(Point start, Point end, Point center, Direction direction, Point point);
-    /// Whether the curve comes within `accuracy` of `box` or its inside; an empty box is met by nothing.
+    /// Whether the curve comes within `accuracy` of `box` or its inside. An empty box is met by nothing, and one beyond
+    /// the loose box only by what is straight within `accuracy`, or by an end.
     bool IntersectsBox(const Box& box, Unit accuracy) const;
     /// Whether the curve comes within `accuracy` of `segment`.
     bool IntersectsSegment(const Segment& segment, Unit accuracy) const;

@@ -15,16 +15,12 @@ bool IsOnRadial(Point point, Point center, Point end, Unit accuracy) {
 } // namespace
 
 Point Arc::GetMidPoint() const {
-    // Reckoned from the lesser end, so that the arc and its reverse round alike.
-    const bool isStartGreater =
-        m_Start.GetX() > m_End.GetX() || (m_Start.GetX() == m_End.GetX() && m_Start.GetY() > m_End.GetY());
-    if (isStartGreater)
-        return GetReversed().GetMidPoint();
     const Segment chord = GetStartEndSegment();
     if (m_Height == k_NullUnit)
         return chord.GetMidPoint();
     if (IsCircle())
         return Point(Vector(GetCenter()) * 2) - Vector(m_Start);
+    // The reverse negates the chord and the height, without rounding, and comes to the same bits.
     return chord.GetMidPoint() + chord.GetVector().GetWithLength(m_Height).GetRotated(k_Angle_90);
 }
 

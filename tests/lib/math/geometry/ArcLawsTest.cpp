@@ -141,6 +141,7 @@ TEST_P(ArcLawsTest, ReverseIsTheSameCurve) {
     EXPECT_EQ(reversed.GetRadius(), arc.GetRadius());
     EXPECT_EQ(reversed.GetCenter(), arc.GetCenter());
     EXPECT_EQ(reversed.GetBox(), arc.GetBox());
+    EXPECT_EQ(fixtures::BitsOf(reversed.GetMidPoint()), fixtures::BitsOf(arc.GetMidPoint()));
 }
 
 TEST_P(ArcLawsTest, HalvesMeetInTheMiddleAndKeepTheCircle) {

@@ -32,6 +32,15 @@ TEST(ArcTest, BoxOfSmallArcOverAxisParallelChordIsChordAndMidPoint) {
     EXPECT_EQ(ArcOf("4,-3 4,3 h-1").GetBox(), BoxOf("4,-3 5,3"));
 }
 
+TEST(ArcTest, BoxOverAxisParallelChordEndsAtTheMidPointExactly) {
+    for (const double height : {0.1, 0.2, -0.3, 0.35}) {
+        const Arc arc({0, 0}, {0.7, 0}, height);
+        EXPECT_EQ(arc.GetBox(), Box(0, 0, 0.7, height));
+        const Arc upright({0, 0}, {0, 0.7}, height);
+        EXPECT_EQ(upright.GetBox(), Box(0, 0, -height, 0.7));
+    }
+}
+
 TEST(ArcTest, BoxOfStraightPieceIsThatOfItsChord) {
     EXPECT_EQ(ArcOf("2,1 0,5").GetBox(), BoxOf("0,1 2,5"));
     EXPECT_EQ(ArcOf("3,4 3,4").GetBox(), BoxOf("3,4 3,4"));
@@ -192,6 +201,11 @@ TEST(ArcTest, IntersectsBoxWhereTheCurveRuns) {
         EXPECT_EQ(ArcOf(c.m_Arc).IntersectsBox(BoxOf(c.m_Box), c.m_Accuracy), c.m_Meets);
         EXPECT_EQ(ArcOf(c.m_Arc).GetReversed().IntersectsBox(BoxOf(c.m_Box), c.m_Accuracy), c.m_Meets);
     }
+}
+
+TEST(ArcTest, BoxBeyondTheLooseBoxIsNotMetWhateverTheAccuracy) {
+    EXPECT_FALSE(k_HalfAbove.IntersectsBox(BoxOf("0.5,1.05 1.5,2"), 0.1));
+    EXPECT_TRUE(k_HalfAbove.IntersectsBox(BoxOf("0.5,1 1.5,2"), 0.1));
 }
 
 TEST(ArcTest, NothingIntersectsAnEmptyBox) {

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
 
 namespace {
 
@@ -139,11 +140,13 @@ TEST(ArcTest, FarCenterMayLieOffTheBisector) {
 }
 
 TEST(ArcTest, RadiusIsNeverBelowHalfTheChord) {
-    // The half diagonal of the square of 3 rounds down: its square is less than a quarter of the chord's.
-    const double halfDiagonal = std::sqrt(4.5);
-    ASSERT_LT(halfDiagonal * halfDiagonal, 4.5);
-    const Arc arc(SegmentOf("0,0 3,3"), k_CCW, Point(1.5, 1.5));
-    EXPECT_EQ(arc.GetHeight(), -halfDiagonal);
+    // The mean distance of the ends rounds to one unit in the last place less than half the chord.
+    const Segment chord = SegmentOf("9.7,-9.9 7.9,1.5");
+    const Point center(8.8, -4.2);
+    const double mean = 5.770615218501403;
+    const Unit toBothEnds = Segment(center, chord.GetStart()).GetLength() + Segment(center, chord.GetEnd()).GetLength();
+    ASSERT_EQ(toBothEnds * 0.5, mean);
+    EXPECT_EQ(Arc(chord, k_CCW, center).GetHeight(), -fixtures::Up(mean));
 }
 
 TEST(ArcTest, EqualEndsAroundCenterGiveReportedFullCircle) {
@@ -221,6 +224,18 @@ TEST(ArcTest, HalfCircleIsNotBig) {
     EXPECT_FALSE(ArcOf("0,0 2,0 h1").IsBig());
     EXPECT_FALSE(ArcOf("0,0 2,0 h-1").IsBig());
     EXPECT_FALSE(Arc({0, 0}, {2, 0}, fixtures::Down(1)).IsBig());
+}
+
+TEST(ArcTest, HalfCircleOfAnySizeIsExact) {
+    // With many of these heights the formula for all arcs comes out one unit in the last place off.
+    for (int i = 0; i < 1000; ++i) {
+        const double height = 1 + i / 1000.0;
+        const Arc arc({0, 0}, {2 * height, 0}, height);
+        EXPECT_EQ(arc.GetRadius(), height);
+        EXPECT_EQ(arc.GetCircumference().GetRadius(), height);
+        EXPECT_EQ(arc.GetCenter(), Point(height, 0));
+        EXPECT_EQ(arc.GetSweep(), -k_Angle_180);
+    }
 }
 
 TEST(ArcTest, HeightAboveHalfTheChordIsBigWithMoreThanHalfATurn) {
@@ -314,6 +329,15 @@ TEST(ArcTest, RadialsPointFromTheCenterToTheEnds) {
     EXPECT_EQ(ArcOf("0,0 2,0 h1").GetEndRadial(), k_East);
     EXPECT_EQ(ArcOf("5,3 5,3 h4 a90").GetStartRadial(), k_South);
     EXPECT_EQ(ArcOf("5,3 5,3 h4 a90").GetEndRadial(), k_South);
+}
+
+TEST(ArcTest, RadialOfFullCircleIsTakenFromItsCenterAzimuth) {
+    // Reckoned back from the centre many of these would be one unit in the last place off.
+    for (int degrees = 0; degrees < 360; ++degrees) {
+        const Arc arc = ArcOf("5,3 5,3 h4 a" + std::to_string(degrees));
+        EXPECT_EQ(arc.GetStartRadial(), arc.GetCenterAzimuth().GetOpposite());
+        EXPECT_EQ(arc.GetEndRadial(), arc.GetCenterAzimuth().GetOpposite());
+    }
 }
 
 TEST(ArcTest, RadialsOfStraightPieceAreReported) {
