@@ -17,7 +17,7 @@ T GetModulo_T(T a, T b) {
 
 /// The value, negated when 0 is greater than it; so -0.0 stays -0.0 and a NaN stays as it is.
 template <class T>
-T GetAbsOf_T(const T& value) {
+constexpr T GetAbsOf_T(const T& value) {
     return T(0) > value ? -value : value;
 }
 
