@@ -12,6 +12,7 @@
 #include "model/CornerRound.h"
 #include "model/Footprint.h"
 #include "model/Layer.h"
+#include "model/LayerStack.h"
 #include "model/Net.h"
 #include "model/Padstack.h"
 #include "model/PathVertex.h"
@@ -29,9 +30,10 @@
 /// The board: what the readers make of the input files, and what the writer sees.
 ///
 /// Holds copies of the trees that it is made from, and the records in the order in which they were read, which is the
-/// order of the neutral file. Records belong to the parser and stay where they are; they point at each other. All lengths
-/// are in the output's unit, all angles in degrees. Lookups by name ignore the case of the letters A to Z and give the first
-/// of equal names. Readers pass over what they don't know, and go on with a default where a value is missing.
+/// order of the neutral file. Records belong to the parser and stay where they are; they point at each other. All
+/// lengths are in the output's unit, all angles in degrees. Lookups by name ignore the case of the letters A to Z and
+/// give the first of equal names. Readers pass over what they don't know, and go on with a default where a value is
+/// missing.
 class ZukenPCBParser {
 public:
     ZukenPCBParser(const io::CBlock& footprintTree, const io::CBlock& boardTree);
@@ -53,15 +55,16 @@ public:
     Layer* FindConductiveLayer(int32_t number) const;
     /// Empty for an unknown layer.
     AString GetConductiveLayerName(int32_t number) const;
-    /// The layer as far from the one outer layer as `layer` is from the other. A layer that isn't in the stackup comes back.
+    /// The layer as far from the one outer layer as `layer` is from the other. A layer that isn't in the stackup comes
+    /// back.
     Layer* MirrorConductiveLayer(Layer* layer) const;
     /// The first and last layer that isn't a bond wire layer.
     Layer* GetTopConductiveLayer() const;
     Layer* GetBottomConductiveLayer() const;
     double GetUnitScale() const { return unitScale; }
     AString GetUnitName() const { return unitName; }
-    /// The net of that name, which is made when there is none. An empty name stands for "ZUKEN_DUMMY". The first spelling
-    /// that was met stays the net's name.
+    /// The net of that name, which is made when there is none. An empty name stands for "ZUKEN_DUMMY". The first
+    /// spelling that was met stays the net's name.
     Net* GetNet(const AString& name);
     /// Appends the outlines of a pad, about the pad's origin, and returns how many `out` then holds. A thermal pad is
     /// reported and has none.
@@ -74,7 +77,7 @@ public:
     int GetPads(std::vector<BasePad*>& out) const { return pads.CopyTo(out); }
     int GetNets(std::vector<Net*>& out) const { return nets.CopyTo(out); }
     int GetComponents(std::vector<Component*>& out) const { return components.CopyTo(out); }
-    int GetConductiveLayers(std::vector<Layer*>& out) const { return conductiveLayers.CopyTo(out); }
+    int GetConductiveLayers(std::vector<Layer*>& out) const;
 
     // ZukenPCBParser_Board.cpp: the board file's frame
 
@@ -100,8 +103,8 @@ public:
     /// Always false.
     bool ReadPads(const io::CBlock_func& padsFunc);
     void ReadPad(io::CBlock_func& pad);
-    /// Replaces `out` by the polygon through the points of the child `vertex`. False, with `out` as it was, without that child
-    /// or with fewer than two points.
+    /// Replaces `out` by the polygon through the points of the child `vertex`. False, with `out` as it was, without
+    /// that child or with fewer than two points.
     bool ReadPolygonOutline(const io::CBlock_func& func, geom::Polygon& out) const;
 
     // ZukenPCBParser_Padstacks.cpp
@@ -151,31 +154,29 @@ public:
 
     // ZukenPCBParser_Layout.cpp
 
-    /// Where the surfaces of a component's layout go.
-    struct Placement {
-        geom::Point origin;
-        double angle = 0.0; ///< degrees
-        bool mirrored = false;
-    };
-    /// Reads the child `layout` of `block`; false when there is none. With `skipPadstacks` layers without a conductive number
-    /// are passed over. `mirrorLayers` and `pin`, which may be null, are for the padstacks, `placement` for `refer` surfaces.
+    /// Reads the child `layout` of `block`; false when there is none. With `skipPadstacks` layers without a conductive
+    /// number are passed over. `mirrorLayers` and `pin`, which may be null, are for the padstacks; `origin`, `angle`
+    /// (degrees) and `mirrored` place the surfaces of `refer` lists.
     bool ReadLayout(const io::CBlock_func& block, bool skipPadstacks, bool mirrorLayers, FootprintPin* pin,
-        const Placement& placement);
+        geom::Point origin, double angle, bool mirrored);
 
     // ZukenPCBParser_Lines.cpp
 
     /// Makes the traces of one line: it is cut where its width changes. Always true.
     bool ReadLine(const io::CBlock_func& block, Net* net, const AString& layerName);
     /// Rounds the corners of a line and gives it one width.
-    static void ApplyCornerRounds(std::vector<PathVertex>& vertices, const std::vector<CornerRound>& rounds, double width);
-    /// Puts an arc in place of the corner at `point`, where an arc of the cyclic list begins. False when there is none that
-    /// can be rounded.
+    static void ApplyCornerRounds(
+        std::vector<PathVertex>& vertices, const std::vector<CornerRound>& rounds, double width);
+    /// Puts an arc in place of the corner at `point`, where an arc of the cyclic list begins. False when there is none
+    /// that can be rounded.
     static bool RoundCorner(std::vector<geom::Arc>& arcs, geom::Point point, double radius);
 
     // ZukenPCBParser_Surfaces.cpp
 
-    /// Makes a surface of each outline, with its voids. Always true.
-    bool ReadSurface(const io::CBlock_func& block, Net* net, const AString& layerName, const Placement& placement);
+    /// Makes a surface of each outline, with its voids, all moved to `origin`, turned by `angle` degrees and, when
+    /// `mirrored`, turned the other way and mirrored about the vertical line through `origin`. Always true.
+    bool ReadSurface(const io::CBlock_func& block, Net* net, const AString& layerName, geom::Point origin, double angle,
+        bool mirrored);
     /// Reads a closed outline of points and arcs. Always true.
     bool ReadLoop(const io::CBlock_func& block, geom::Polygon& polygon) const;
 
@@ -185,8 +186,10 @@ public:
     bool ReadPadstackLayer(const io::CBlock_func& layer, bool mirrorLayers, FootprintPin* pin);
     /// Appends the names of the layers on which `item` makes no connection, and returns how many `layers` then holds.
     int ReadNoConnectLayers(const io::CBlock_func& item, std::vector<AString>& layers) const;
-    /// Draws a padstack that the neutral file has no form for as surfaces of the net.
-    void AddPadstackSurfaces(Net* net, const Padstack& padstack, const geom::Transformation& placement, bool mirrorLayers);
+    /// Draws a padstack that the neutral file has no form for as surfaces of the net. Any other, and null, is passed
+    /// over.
+    void AddPadstackSurfaces(
+        Net* net, const Padstack* padstack, const geom::Transformation& placement, bool mirrorLayers);
 
     // ZukenPCBParser_TextFile.cpp
 
@@ -205,7 +208,7 @@ private:
     double unitScale = 1.0; ///< 2^30 units of 1e-5 mm in the file's unit
     RecordList_T<Component> components;
     RecordList_T<Net> nets;
-    RecordList_T<Layer> conductiveLayers; ///< the stackup, top to bottom
+    LayerStack conductiveLayers; ///< the stackup, top to bottom
     io::CBlock pcbData;
     RecordList_T<Footprint> footprints;
     RecordList_T<Padstack> padstacks;
@@ -215,10 +218,11 @@ private:
     double coordScale = 1.0;            ///< every length of both files times this is a length of the output
     AString unitName;                   ///< "mm", "mil" or "in"
     std::map<AString, AString> nameMap; ///< a component's reference as the files spell it, to its name
-    RecordList_T<Layer> bondwireLayers;
+    std::vector<Layer*> bondwireLayers;
     int32_t layerCount = 1; ///< read by nothing
     geom::Box boardBox;     ///< around the objects of all nets
 
+    RecordPool_T<Layer> layers;
     RecordPool_T<FootprintPin> footprintPins;
     RecordPool_T<PadstackLayerPad> layerPads;
     RecordPool_T<Trace> traces;
