@@ -14,6 +14,7 @@
 #include "model/FootprintPin.h"
 #include "model/Layer.h"
 #include "model/LayerStack.h"
+#include "model/NameMap.h"
 #include "model/Net.h"
 #include "model/Padstack.h"
 #include "model/PadstackLayerPad.h"
@@ -22,12 +23,16 @@
 #include "model/RecordPool_T.h"
 #include "model/Surface.h"
 #include "model/Trace.h"
+#include "model/UsedNames.h"
 #include "model/Via.h"
 
 #include <cstdint>
-#include <map>
 #include <set>
 #include <vector>
+
+class ArcRing;
+struct ComponentDraft;
+struct PinDraft;
 
 /// The board: what the readers make of the input files, and what the writer sees.
 ///
@@ -104,10 +109,16 @@ public:
 
     /// Always false.
     bool ReadPads(const io::CBlock_func& padsFunc);
+    /// Appends one pad, or none when no shape came about.
     void ReadPad(io::CBlock_func& pad);
     /// Replaces `out` by the polygon through the points of the child `vertex`. False, with `out` as it was, without
     /// that child or with fewer than two points.
     bool ReadPolygonOutline(const io::CBlock_func& func, geom::Polygon& out) const;
+
+    // ZukenPCBParser_PadShapes.cpp
+
+    /// The pad that one shape of a geometry makes alone; null for a shape that is unknown or too small.
+    std::unique_ptr<BasePad> ReadPadShape(io::CBlock_func& shape, const AString& name) const;
 
     // ZukenPCBParser_Padstacks.cpp
 
@@ -117,10 +128,12 @@ public:
 
     // ZukenPCBParser_Footprints.cpp
 
-    bool ReadFootprints(const io::CBlock_func& footprintsFunc);
+    void ReadFootprints(const io::CBlock_func& footprintsFunc);
+    /// Appends one footprint, or none when it has neither a name nor a pin.
     void ReadFootprint(io::CBlock_func& footprint);
-    /// The name, or one made from it that `used` doesn't hold; it is added to `used`.
-    static AString MakeUniqueName(std::set<AString>& used, const AString& name);
+    /// The name, or one made from it that `used` doesn't hold, which is added to `used`: what stands ahead of the first
+    /// "_", and a number that counts on from what stands behind it. A name of nothing but "_" that is taken comes back.
+    static AString MakeUniqueName(UsedNames& used, const AString& name);
     /// The padstack that puts one pad on one footprint layer, which is made on first demand. Null for an unknown layer.
     Padstack* GetGeneratedPadstack(const AString& padName, const AString& layerName);
 
@@ -138,15 +151,23 @@ public:
     bool ReadComponents(const io::CBlock_func& section);
     /// True when a record was made.
     bool ReadComponent(const io::CBlock_func& func, const AString& id);
+
+    // ZukenPCBParser_ComponentPins.cpp
+
     /// The layer of the bond wires of that number, which is made on first demand.
     Layer* GetBondwireLayer(int32_t number);
+    /// Whether a system layer of the pin's layout holds more than one padstack.
+    static bool PinHasTwoPadstacks(const io::CBlock_func& pin);
+
+    // ZukenPCBParser_ComponentNames.cpp
+
     /// The model's name of a component that the files call `reference`, which is noted for `GetComponentName`.
     AString MakeComponentName(const AString& reference);
     /// The name that was noted. An unknown reference is noted with an empty name.
     AString GetComponentName(const AString& reference);
     /// `text` with each `from` replaced by `to`, which must not contain `from`.
     static AString ReplaceAll(const AString& text, const AString& from, const AString& to);
-    static bool PinHasTwoPadstacks(const io::CBlock_func& pin);
+    const NameMap& GetNameMap() const { return nameMap; }
 
     // ZukenPCBParser_Nets.cpp
 
@@ -166,12 +187,15 @@ public:
 
     /// Makes the traces of one line: it is cut where its width changes. Always true.
     bool ReadLine(const io::CBlock_func& block, Net* net, const AString& layerName);
+
+    // ZukenPCBParser_CornerRounds.cpp
+
     /// Rounds the corners of a line and gives it one width.
     static void ApplyCornerRounds(
         std::vector<PathVertex>& vertices, const std::vector<CornerRound>& rounds, double width);
     /// Puts an arc in place of the corner at `point`, where an arc of the cyclic list begins. False when there is none
     /// that can be rounded.
-    static bool RoundCorner(std::vector<geom::Arc>& arcs, geom::Point point, double radius);
+    static bool RoundCorner(ArcRing& arcs, geom::Point point, double radius);
 
     // ZukenPCBParser_Surfaces.cpp
 
@@ -207,6 +231,45 @@ public:
     void ComputeBoardBox();
 
 private:
+    // ZukenPCBParser_Board.cpp
+
+    void ReadBoardSection(const io::CBlock_func& section);
+    void ReadTechnologyContainer(const io::CBlock_func& container);
+    void ReadConductiveLayer(io::CBlock_func& layerNumber);
+    void ReadBoardContainer(const io::CBlock_func& container);
+
+    // ZukenPCBParser_Components.cpp
+
+    void AddComponent(const ComponentDraft& draft, const AString& id);
+    /// The footprint of a component's side; null when there is none.
+    Footprint* FindFootprintInUse(const ComponentDraft& draft) const;
+
+    // ZukenPCBParser_ComponentPins.cpp
+
+    /// False, with a line on standard output, when the component has no footprint that could have a pin.
+    bool ReadPin(io::CBlock_func& pin, ComponentDraft& draft);
+    Trace* ReadBondwire(io::CBlock_func& wire);
+    void ReadPinLayer(const io::CBlock_func& layer, const ComponentDraft& draft, PinDraft& pin);
+    void ReadPinSurface(const io::CBlock_func& refer, const AString& layerName, const ComponentDraft& draft);
+
+    // ZukenPCBParser_Nets.cpp
+
+    void ReadNetPin(io::CBlock_func& comp, Net* net);
+
+    // ZukenPCBParser_Layout.cpp
+
+    void ReadConductiveItem(
+        io::CBlock_func& item, const AString& layerName, geom::Point origin, double angle, bool mirrored);
+    void ReadPlacedPad(io::CBlock_func& item, const AString& layerName);
+
+    // ZukenPCBParser_Vias.cpp
+
+    void ReadPadstackInstance(io::CBlock_func& item, bool mirrorLayers, const FootprintPin* pin);
+
+    // ZukenPCBParser_TextFile.cpp
+
+    void AmendComponent(std::vector<AString>& fields);
+
     double unitScale = 1.0; ///< 2^30 units of 1e-5 mm in the file's unit
     RecordList_T<Component> components;
     RecordList_T<Net> nets;
@@ -217,12 +280,12 @@ private:
     RecordList_T<BasePad> pads;
     RecordList_T<FPLayer> footprintLayers;
     io::CBlock fpData;
-    double coordScale = 1.0;            ///< every length of both files times this is a length of the output
-    AString unitName;                   ///< "mm", "mil" or "in"
-    std::map<AString, AString> nameMap; ///< a component's reference as the files spell it, to its name
-    std::vector<Layer*> bondwireLayers;
-    int32_t layerCount = 1; ///< read by nothing
-    geom::Box boardBox;     ///< around the objects of all nets
+    double coordScale = 1.0;   ///< every length of both files times this is a length of the output
+    AString unitName;          ///< "mm", "mil" or "in"
+    NameMap nameMap;           ///< a component's reference as the files spell it, to its name
+    LayerStack bondwireLayers; ///< one for each bond wire number
+    int32_t layerCount = 1;    ///< read by nothing
+    geom::Box boardBox;        ///< around the objects of all nets
 
     RecordPool_T<Layer> layers;
     RecordPool_T<FootprintPin> footprintPins;
