@@ -27,7 +27,7 @@
 #include "model/Via.h"
 
 #include <cstdint>
-#include <set>
+#include <memory>
 #include <vector>
 
 class ArcRing;
@@ -231,12 +231,12 @@ public:
     void ComputeBoardBox();
 
 private:
-    // ZukenPCBParser_Board.cpp
+    class FootprintPinReader;
 
-    void ReadBoardSection(const io::CBlock_func& section);
-    void ReadTechnologyContainer(const io::CBlock_func& container);
-    void ReadConductiveLayer(io::CBlock_func& layerNumber);
-    void ReadBoardContainer(const io::CBlock_func& container);
+    // ZukenPCBParser_LayerMapping.cpp
+
+    /// Puts the bond wire layers on top of the stackup, whose layers take the numbers behind theirs.
+    void PrependBondwireLayers();
 
     // ZukenPCBParser_Components.cpp
 
