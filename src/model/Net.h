@@ -15,6 +15,9 @@ class Via;
 /// made; the net owns none of them.
 class Net {
 public:
+    /// The name of the net that takes in all that is on none.
+    static constexpr char k_NoNet[] = "ZUKEN_DUMMY";
+
     explicit Net(AString netName);
     Net(const Net&) = delete;
     Net& operator=(const Net&) = delete;

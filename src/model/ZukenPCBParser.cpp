@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr char k_NoNet[] = "ZUKEN_DUMMY";
-
 /// The box of a rectangle or obround, neither turned nor with round corners.
 template <class Pad>
 geom::Polygon GetPadBox_T(const Pad& pad) {
@@ -54,7 +52,7 @@ Layer* ZukenPCBParser::GetBottomConductiveLayer() const { return conductiveLayer
 int ZukenPCBParser::GetConductiveLayers(std::vector<Layer*>& out) const { return conductiveLayers.CopyTo(out); }
 
 Net* ZukenPCBParser::GetNet(const AString& name) {
-    const AString known = name.empty() ? AString(k_NoNet) : name;
+    const AString known = name.empty() ? AString(Net::k_NoNet) : name;
     Net* net = nets.Find(known);
     return net != nullptr ? net : nets.Add(std::make_unique<Net>(known));
 }
