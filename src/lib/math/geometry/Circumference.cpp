@@ -86,11 +86,8 @@ PointPairResult Circumference::GetIntersections(const Segment& segment, Unit acc
     const PointPairResult all = GetIntersections(Line(segment), accuracy);
     const bool hasFirst = all.m_Success1 != 0 && segment.ProjectsInto(all.m_Point1, accuracy);
     const bool hasSecond = all.m_Success2 != 0 && segment.ProjectsInto(all.m_Point2, accuracy);
-    if (hasFirst && hasSecond) {
-        if (all.m_Point1.IsEqualTo(all.m_Point2, accuracy))
-            return {1, all.m_Point1.GetMidPoint(all.m_Point2), 0, {}};
-        return all;
-    }
+    if (hasFirst && hasSecond)
+        return all; // farther apart than the accuracy, or the line would have had one point only
     if (hasFirst || hasSecond)
         return {1, hasFirst ? all.m_Point1 : all.m_Point2, 0, {}};
     return {};

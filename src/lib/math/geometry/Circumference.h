@@ -49,9 +49,10 @@ public:
     /// Whether the bounds are equal within `accuracy`.
     bool IsEqualTo(const Circumference& other, Unit accuracy) const;
 
-    /// The points where the line cuts or touches the outline, in the line's direction.
+    /// The points where the line cuts or touches the outline, in the line's direction; one where two would be equal
+    /// within `accuracy`.
     PointPairResult GetIntersections(const Line& line, Unit accuracy) const;
-    /// The same for a segment; points closer than `accuracy` become one.
+    /// The same for a segment.
     PointPairResult GetIntersections(const Segment& segment, Unit accuracy) const;
     /// What two outlines share: point-like arcs, or one full circle where they coincide within `accuracy`.
     ArcPairResult GetIntersections(const Circumference& other, Unit accuracy) const;
