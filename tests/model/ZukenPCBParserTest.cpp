@@ -3,18 +3,19 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+#include <fstream>
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
 
-/// Two footprints whose names differ in case, the first with pin "1", the second with pin "2".
-constexpr char k_Footprints[] = R"(
-(ftf parts
-  (footprintContainer
-    (footprints
-      (footprint sot (heelprint (layout (layer (footprintLayer Top) (pin 1 (pt 0 0))))))
-      (footprint SOT (heelprint (layout (layer (footprintLayer Top) (pin 2 (pt 0 0)))))))))
+/// A footprint file with the conductive layers PAD_A, of number 1, and PAD_B, of number 2.
+constexpr char k_FootprintLayers[] = R"(
+(ftf library
+  (technologyContainer (technology std
+    (footprintLayer (layer PAD_A (type CONDUCTIVE)) (layer PAD_B (type CONDUCTIVE))))))
 )";
 
 /// A board of `count` plain layers.
@@ -36,7 +37,8 @@ TEST(ZukenPCBParserTest, FindComponentIgnoresCase) {
 }
 
 TEST(ZukenPCBParserTest, TheFirstOfTwoFootprintsOfOneNameAnswersForBoth) {
-    const auto parser = ParseBoard("", k_Footprints);
+    const auto parser =
+        ParseBoard("", "(ftf library (footprintContainer (footprints (footprint sot) (footprint SOT))))");
     std::vector<Footprint*> footprints;
     ASSERT_EQ(parser->GetFootprints(footprints), 2);
     EXPECT_EQ(footprints[0]->name, AString("sot"));
@@ -44,6 +46,29 @@ TEST(ZukenPCBParserTest, TheFirstOfTwoFootprintsOfOneNameAnswersForBoth) {
     EXPECT_EQ(parser->FindFootprint("sot"), footprints[0]);
     EXPECT_EQ(parser->FindFootprint("SOT"), footprints[0]);
     EXPECT_EQ(parser->FindFootprint("Sot"), footprints[0]);
+}
+
+TEST(ZukenPCBParserTest, FindsFootprintLayersInAnyCase) {
+    const auto parser = ParseBoard("", k_FootprintLayers);
+    EXPECT_TRUE(parser->HasFootprintLayer("pad_b"));
+    EXPECT_EQ(parser->GetFootprintLayerNumber("pad_b"), 2U);
+    EXPECT_EQ(parser->FindFootprintLayer("pad_b")->name, AString("PAD_B"));
+    EXPECT_FALSE(parser->HasFootprintLayer("PAD_C"));
+    EXPECT_EQ(parser->GetFootprintLayerNumber("PAD_C"), 0xFFFFFFFFU);
+    EXPECT_EQ(parser->FindFootprintLayer("PAD_C"), nullptr);
+}
+
+TEST(ZukenPCBParserTest, TheFirstFootprintLayerThatStandsForANumberWins) {
+    const auto parser = ParseBoard("", k_FootprintLayers);
+    FPLayer* first = parser->FindFootprintLayer("PAD_A");
+    FPLayer* second = parser->FindFootprintLayer("PAD_B");
+    EXPECT_EQ(parser->FindFootprintLayerByConductive(2), second);
+    EXPECT_EQ(parser->FindFootprintLayerByConductive(7), nullptr);
+    second->conductiveNumbers = {7};
+    EXPECT_EQ(parser->FindFootprintLayerByConductive(7), second);
+    first->conductiveNumbers = {2, 7}; // stands ahead of the layer whose own number is 2
+    EXPECT_EQ(parser->FindFootprintLayerByConductive(7), first);
+    EXPECT_EQ(parser->FindFootprintLayerByConductive(2), first);
 }
 
 TEST(ZukenPCBParserTest, FourLayersAreMirroredPairwise) {
@@ -111,6 +136,17 @@ TEST(ZukenPCBParserTest, AnEmptyNetNameStandsForTheNetOfNoNet) {
     Net* net = parser.GetNet("");
     EXPECT_EQ(net->name, AString("ZUKEN_DUMMY"));
     EXPECT_EQ(parser.GetNet("zuken_dummy"), net);
+}
+
+TEST(ZukenPCBParserTest, APartNumberOfTheBoardWinsOverTheSideFile) {
+    const std::filesystem::path path = std::filesystem::path(testing::TempDir()) / "PartNumberOfTheBoard.txt";
+    std::ofstream(path) << "REF PART VALUE\nU1 SIDE-1 10k\nU2 SIDE-2 22k\n";
+    const auto parser = ParseBoard("(pcf b (boardContainer (Components (Component (reference U1)) "
+                                   "(Component (reference U2) (part OWN)))))");
+    parser->ParseTextFile(LongFileName(AString(path.string())));
+    std::filesystem::remove(path);
+    EXPECT_EQ(parser->FindComponent("U1")->partNumber, AString("SIDE-1"));
+    EXPECT_EQ(parser->FindComponent("U2")->partNumber, AString("OWN"));
 }
 
 TEST(ZukenPCBParserTest, KeepsItsInputWhenTheSourceIsGone) {
