@@ -210,8 +210,8 @@ public:
 
     /// Reads padstack instances of the board or of a pin. Always true.
     bool ReadPadstackLayer(const io::CBlock_func& layer, bool mirrorLayers, FootprintPin* pin);
-    /// Appends the names of the layers on which `item` makes no connection, and returns how many `layers` then holds.
-    int ReadNoConnectLayers(const io::CBlock_func& item, std::vector<AString>& layers) const;
+    /// Appends the names of the layers on which `item` makes no connection, and returns how many `names` then holds.
+    int ReadNoConnectLayers(const io::CBlock_func& item, std::vector<AString>& names) const;
     /// Draws a padstack that the neutral file has no form for as surfaces of the net. Any other, and null, is passed
     /// over.
     void AddPadstackSurfaces(
@@ -260,6 +260,8 @@ private:
 
     void ReadConductiveItem(
         io::CBlock_func& item, const AString& layerName, geom::Point origin, double angle, bool mirrored);
+    void ReadReference(
+        const io::CBlock_func& refer, const AString& layerName, geom::Point origin, double angle, bool mirrored);
     void ReadPlacedPad(io::CBlock_func& item, const AString& layerName);
 
     // ZukenPCBParser_Vias.cpp
@@ -268,7 +270,7 @@ private:
 
     // ZukenPCBParser_TextFile.cpp
 
-    void AmendComponent(std::vector<AString>& fields);
+    void AmendComponent(const std::vector<AString>& fields);
 
     double unitScale = 1.0; ///< 2^30 units of 1e-5 mm in the file's unit
     RecordList_T<Component> components;
