@@ -85,10 +85,7 @@ bool ZukenPCBParser::ParseBoardFile() {
 
 /// (header (unit DBUNIT))
 void ZukenPCBParser::ReadUnits(const io::CBlock_func& header) {
-    io::CBlock_func unit("unit");
-    header >> unit;
-    AString text;
-    unit >> text;
+    const AString text = GetTextOf_G(header, "unit");
     coordScale = 1.0;
     unitName = "mm";
     if (text.CompareNoCase("DBUNIT") == 0) {

@@ -33,14 +33,9 @@ bool ZukenPCBParser::ParseFootprintFile() {
 ///         (layer PAD_A (type CONDUCTIVE))
 ///         (layer RESIST_A (type RESIST)))))
 bool ZukenPCBParser::ReadTechnology(const io::CBlock_func& technologyContainer) {
-    bool isFound = false;
     io::CBlock_func technology("technology");
-    technologyContainer >> technology >> io::Query_ok(isFound);
-    if (!isFound)
-        return false;
     io::CBlock_func footprintLayer("footprintLayer");
-    technology >> footprintLayer >> io::Query_ok(isFound);
-    if (!isFound)
+    if (!FindChild_G(technologyContainer, technology) || !FindChild_G(technology, footprintLayer))
         return false;
     int32_t number = 1;
     for (io::CBlock_func& layer : footprintLayer.Funcs()) {

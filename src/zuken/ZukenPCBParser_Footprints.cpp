@@ -17,16 +17,8 @@ void ZukenPCBParser::ReadFootprints(const io::CBlock_func& footprintsFunc) {
 ///
 ///     (footprint SOIC8 (toeprint (pin ...) (pin ...)))
 void ZukenPCBParser::ReadFootprint(io::CBlock_func& footprint) {
-    bool isText = false;
     AString name;
-    footprint >> name >> io::Query_ok(isText);
-    int number = 0;
-    bool isNumber = false;
-    if (!isText)
-        footprint >> number >> io::Query_ok(isNumber);
-    if (isNumber)
-        name.Format(L"%d", number);
-
+    ReadName_G(footprint, name);
     FootprintPinReader reader(*this);
     for (io::CBlock_func& pin : GetChild_G(footprint, "toeprint").Funcs())
         if (pin.NameIs("pin"))
