@@ -60,7 +60,7 @@ private:
 
 } // namespace
 
-/// Two of the maps tie layers together, and add up; the others are for components on other sides.
+/// Two of the maps tie layers together, and add up; any other is passed over.
 ///
 ///     (layerMapping
 ///       (map A (correspondence ...))
@@ -80,7 +80,9 @@ bool ZukenPCBParser::ReadLayerMapping(const io::CBlock_func& layerMapping) {
 /// (map A
 ///   (correspondence (footLayer PAD_A) (boardLayer (conductive 1)))
 ///   (correspondence (footLayer PAD_IN) (boardLayer (conductive 2) (conductive 3))))
-void ZukenPCBParser::ReadMap(const io::CBlock_func& map) {
+///
+/// Not const, though the parser itself stays as it is: its layers don't.
+void ZukenPCBParser::ReadMap(const io::CBlock_func& map) { // NOLINT(readability-make-member-function-const)
     for (const io::CBlock_func& correspondence : map.Funcs()) {
         if (!correspondence.NameIs("correspondence"))
             continue;

@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include <limits>
+#include <stdexcept>
 
 namespace {
 
@@ -22,10 +23,12 @@ std::unique_ptr<BasePad> ShapeOf(const std::string& shape, const char* unit = "M
     return parser.ReadPadShape(list, "p");
 }
 
+/// The same for a shape that has to become a `Pad`.
 template <class Pad>
 std::unique_ptr<Pad> ShapeOf_T(const std::string& shape, const char* unit = "MM") {
     std::unique_ptr<BasePad> pad = ShapeOf(shape, unit);
-    EXPECT_NE(nullptr, dynamic_cast<Pad*>(pad.get())) << shape;
+    if (dynamic_cast<Pad*>(pad.get()) == nullptr)
+        throw std::runtime_error("another pad, or none, of " + shape);
     return std::unique_ptr<Pad>(dynamic_cast<Pad*>(pad.release()));
 }
 

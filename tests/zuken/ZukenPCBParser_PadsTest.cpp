@@ -17,7 +17,7 @@ std::unique_ptr<ZukenPCBParser> ParsePads(const std::string& pads) { return Pars
 std::vector<geom::Polygon> LoopsOf(const std::string& pads) {
     const auto parser = ParsePads(pads);
     EXPECT_THAT(PadsOf(*parser), SizeIs(1));
-    return dynamic_cast<const PadMultiLoop&>(*PadsOf(*parser).front()).polygons;
+    return dynamic_cast<const PadMultiLoop&>(*PadsOf(*parser).at(0)).polygons;
 }
 
 /// A parser of millimetres, for readers that are called alone.
