@@ -12,6 +12,31 @@ inline constexpr char k_Version[] = "Version";
 inline constexpr char k_Source[] = "Source";
 inline constexpr char k_DefaultUnits[] = "DefaultUnits";
 
+inline constexpr char k_PadShapes[] = "PadShapes";
+inline constexpr char k_NullPad[] = "NULLPAD";
+inline constexpr char k_Circle[] = "Circle";
+inline constexpr char k_Rectangle[] = "Rectangle";
+inline constexpr char k_Obround[] = "Obround";
+inline constexpr char k_Polygon[] = "Polygon";
+inline constexpr char k_Vertex[] = "Vertex";        ///< of a pad's polygon and of a path
+inline constexpr char k_OutlineVertex[] = "vertex"; ///< of a polygon in the layout of a net
+inline constexpr char k_Arc[] = "Arc";
+
+inline constexpr char k_Padstacks[] = "Padstacks";
+inline constexpr char k_Hole[] = "Hole";
+inline constexpr char k_Wirebond[] = "Wirebond"; ///< a padstack's entry on a bond wire layer
+inline constexpr char k_Thermal[] = "Thermal";
+inline constexpr char k_Nonconnect[] = "Nonconnect";
+
+inline constexpr char k_Footprints[] = "Footprints";
+inline constexpr char k_FpPins[] = "FpPins";
+inline constexpr char k_FpPinDef[] = "FpPinDef";
+inline constexpr char k_FpPin[] = "FpPin";
+
+inline constexpr char k_Components[] = "Components";
+inline constexpr char k_CompDef[] = "CompDef";
+inline constexpr char k_Terminal[] = "Terminal";
+
 inline constexpr char k_LayoutData[] = "LayoutData";
 inline constexpr char k_LayoutCell[] = "LayoutCell";
 inline constexpr char k_Netlist[] = "Netlist";
@@ -20,11 +45,38 @@ inline constexpr char k_Design[] = "Design";
 inline constexpr char k_TopLayout[] = "TopLayout";
 inline constexpr char k_Name[] = "Name";
 
+inline constexpr char k_CompInst[] = "CompInst";
+inline constexpr char k_Properties[] = "Properties";
+inline constexpr char k_TextProp[] = "TextProp";
+inline constexpr char k_CheckboxProp[] = "CheckboxProp";
+inline constexpr char k_PartNumber[] = "PART_NUMBER";
+inline constexpr char k_Value[] = "Value";
+inline constexpr char k_Activate[] = "ACTIVATE";
+inline constexpr char k_Net[] = "Net";
+inline constexpr char k_NetPin[] = "NetPin";
+
+inline constexpr char k_LayoutComponents[] = "LayoutComponents";
+inline constexpr char k_LayoutComp[] = "LayoutComp";
+inline constexpr char k_LayoutCompInst[] = "LayoutCompInst";
+inline constexpr char k_FpPinInst[] = "fpPinInst";
+inline constexpr char k_RemoveThermalVoids[] = "RemoveThermalVoids";
+
+inline constexpr char k_LayoutNets[] = "LayoutNets";
+inline constexpr char k_LayoutNet[] = "LayoutNet";
+inline constexpr char k_Via[] = "Via";
+inline constexpr char k_Graphics[] = "Graphics";
+inline constexpr char k_Path[] = "Path";
+inline constexpr char k_Round[] = "Round";
+inline constexpr char k_RadiallyMitered[] = "Radiallymitered";
+inline constexpr char k_PolygonWithVoids[] = "PolygonWithVoids";
+inline constexpr char k_Layer[] = "Layer";
+inline constexpr char k_Voids[] = "voids";
+
 inline constexpr char k_Layers[] = "Layers";
 inline constexpr char k_StackupLayer[] = "StackupLayer";
 inline constexpr char k_Signal[] = "Signal";
 inline constexpr char k_MetalizedSignal[] = "MetalizedSignal";
-inline constexpr char k_Bondwire[] = "wirebond";
+inline constexpr char k_Bondwire[] = "wirebond"; ///< a bond wire layer of the stackup
 inline constexpr char k_Dielectric[] = "Dielectric";
 inline constexpr char k_Top[] = "Top";
 inline constexpr char k_Bottom[] = "Bottom";

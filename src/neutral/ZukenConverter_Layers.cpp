@@ -40,13 +40,6 @@ io::CBlock_func MakeDielectric(int number) {
     return func;
 }
 
-/// The first real layer is the top one, so that bond wire layers may stand ahead of it.
-size_t FindTop(const std::vector<Layer*>& layers) {
-    const auto isReal = [](const Layer* layer) { return layer->type < Layer::k_Bondwire; };
-    const auto top = std::find_if(layers.begin(), layers.end(), isReal);
-    return top == layers.end() ? 0 : static_cast<size_t>(top - layers.begin());
-}
-
 } // namespace
 
 bool ZukenConverter::WriteLayers(const Layers& layers, io::CBlock& parent) {
@@ -62,4 +55,11 @@ bool ZukenConverter::WriteLayers(const Layers& layers, io::CBlock& parent) {
     }
     parent << block;
     return true;
+}
+
+/// Bond wire layers may stand ahead of the top.
+size_t ZukenConverter::FindTop(const Layers& layers) {
+    const auto isReal = [](const Layer* layer) { return layer->type < Layer::k_Bondwire; };
+    const auto top = std::find_if(layers.begin(), layers.end(), isReal);
+    return top == layers.end() ? 0 : static_cast<size_t>(top - layers.begin());
 }

@@ -2,13 +2,29 @@
 #include "neutral/Keywords.h"
 #include "neutral/ZukenConverter.h"
 
+/// The whole tree is built before anything of it is written.
 bool ZukenConverter::Write(ZukenPCBParser& parser) {
     io::CToken_ostream stream(outName, io::CToken_ostream::k_Text);
     io::CBlock root(keyword::k_QuorelNeutralFile);
     WriteHeader(parser, root);
+    Pads pads;
+    parser.GetPads(pads);
+    WritePadShapes(pads, root);
     Layers layers;
     parser.GetConductiveLayers(layers);
-    WriteLayoutData(layers, root);
+    Padstacks padstacks;
+    parser.GetPadstacks(padstacks);
+    WritePadstacks(padstacks, layers, root);
+    Footprints footprints;
+    parser.GetFootprints(footprints);
+    WriteFootprints(footprints, root);
+    Components components;
+    parser.GetComponents(components);
+    Nets nets;
+    parser.GetNets(nets);
+    WriteComponents(components, root);
+    NameNamelessNets(nets);
+    WriteLayoutData(components, nets, layers, root);
     stream << root;
     stream.Close();
     return false;
@@ -28,22 +44,23 @@ void ZukenConverter::WriteHeader(const ZukenPCBParser& parser, io::CBlock& root)
     root << io::CBlock_named_value(keyword::k_DefaultUnits, parser.GetUnitName());
 }
 
+void ZukenConverter::NameNamelessNets(const Nets& nets) {
+    for (Net* net : nets)
+        if (net->name.empty())
+            net->name = Net::k_NoNet;
+}
+
 /// Large blocks go into their parents by reference: a copy would cost the memory of the whole layout once more.
-void ZukenConverter::WriteLayoutData(const Layers& layers, io::CBlock& root) {
+void ZukenConverter::WriteLayoutData(
+    const Components& components, const Nets& nets, const Layers& layers, io::CBlock& root) {
     io::CBlockPtr layoutData(keyword::k_LayoutData);
     io::CBlockPtr layoutCell(keyword::k_LayoutCell);
-    WriteLayoutCell(layers, *layoutCell);
+    WriteLayoutCell(components, nets, layers, *layoutCell);
     *layoutData << layoutCell;
     io::CBlock design(keyword::k_Design);
     WriteDesign(layers, design);
     *layoutData << design;
     root << layoutData;
-}
-
-void ZukenConverter::WriteLayoutCell(const Layers& layers, io::CBlock& layoutCell) {
-    io::CBlockPtr layout(keyword::k_Layout);
-    WriteLayers(layers, *layout);
-    layoutCell << layout;
 }
 
 void ZukenConverter::WriteDesign(const Layers& layers, io::CBlock& design) {

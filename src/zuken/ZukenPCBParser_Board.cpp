@@ -1,8 +1,8 @@
 #include "blocks/FuncRange.h"
 #include "model/ZukenPCBParser.h"
+#include "zuken/ListValues.h"
 
 #include <cmath>
-#include <iterator>
 
 namespace {
 
@@ -12,10 +12,48 @@ constexpr double k_MillimetresPerDatabaseUnit = 1e-5;
 constexpr double k_DatabaseUnitsPerMillimetre = 100000.0;
 constexpr double k_DatabaseUnitsPerMil = 2540.0;
 
+/// (technologyContainer (technology tech_2L (conductiveLayer ...) (layerMapping ...)))
+void ReadTechnologyContainer(const io::CBlock_func& container, ZukenPCBParser& parser) {
+    const io::CBlock_func technology = GetChild_G(container, "technology");
+    parser.ReadConductiveLayers(GetChild_G(technology, "conductiveLayer"));
+    parser.ReadLayerMapping(GetChild_G(technology, "layerMapping"));
+    parser.ReadCorrespondence();
+}
+
+/// Components are read ahead of the nets that name them, and nets ahead of the layout, whatever the order in the file:
+///
+///     (boardContainer
+///       (Components ...)
+///       (nets ...)
+///       (boardLayout (layout ...)))
+void ReadBoardContainer(const io::CBlock_func& container, ZukenPCBParser& parser) {
+    parser.ReadComponents(GetChild_G(container, "Components"));
+    parser.ReadNets(GetChild_G(container, "nets"));
+    parser.ReadLayout(GetChild_G(container, "boardLayout"), false, false, nullptr, geom::k_Origin, 0.0, false);
+}
+
+/// (layerNumber 1 (type POSI))
+/// (layerNumber 3 (type FULLSURF) (signalName GND))
+Layer* MakeConductiveLayer(io::CBlock_func& layerNumber, RecordPool_T<Layer>& layers) {
+    int number = 0;
+    layerNumber >> number;
+    const AString type = GetTextOf_G(layerNumber, "type");
+    const bool isFull = type.CompareNoCase("FULLSURF") == 0;
+    const bool isPlane = isFull || type.CompareNoCase("POSINEGA") == 0;
+    AString name;
+    name.Format(L"Conductive_%d", number);
+    Layer* layer = layers.Make(name, number, isPlane ? Layer::k_Plane : Layer::k_Conductive, 0.0);
+    if (isFull)
+        layer->signalName = GetTextOf_G(layerNumber, "signalName");
+    return layer;
+}
+
 } // namespace
 
-bool ZukenPCBParser::Parse(const LongFileName& /*txtName*/) {
+bool ZukenPCBParser::Parse(const LongFileName& txtName) {
+    ParseFootprintFile();
     ParseBoardFile();
+    ParseTextFile(txtName);
     return true;
 }
 
@@ -29,25 +67,25 @@ bool ZukenPCBParser::ParseBoardFile() {
     for (const io::CBlock_func& pcf : pcbData.Funcs()) {
         if (!pcf.NameIs("pcf"))
             continue;
-        for (const io::CBlock_func& section : pcf.Funcs())
-            ReadBoardSection(section);
+        for (const io::CBlock_func& section : pcf.Funcs()) {
+            if (section.NameIs("header"))
+                ReadUnits(section);
+            else if (section.NameIs("boardContainer"))
+                ReadBoardContainer(section, *this);
+            else if (section.NameIs("technologyContainer"))
+                ReadTechnologyContainer(section, *this);
+        }
     }
+    FinishBoard();
+    // The components have brought bond wire layers, of which the padstacks don't know yet.
+    if (!bondwireLayers.IsEmpty())
+        ReadCorrespondence();
     return true;
-}
-
-void ZukenPCBParser::ReadBoardSection(const io::CBlock_func& section) {
-    if (section.NameIs("header"))
-        ReadUnits(section);
-    else if (section.NameIs("technologyContainer"))
-        ReadTechnologyContainer(section);
 }
 
 /// (header (unit DBUNIT))
 void ZukenPCBParser::ReadUnits(const io::CBlock_func& header) {
-    io::CBlock_func unit("unit");
-    header >> unit;
-    AString text;
-    unit >> text;
+    const AString text = GetTextOf_G(header, "unit");
     coordScale = 1.0;
     unitName = "mm";
     if (text.CompareNoCase("DBUNIT") == 0) {
@@ -63,40 +101,9 @@ void ZukenPCBParser::ReadUnits(const io::CBlock_func& header) {
     }
 }
 
-/// (technologyContainer (technology tech_2L (conductiveLayer ...)))
-void ZukenPCBParser::ReadTechnologyContainer(const io::CBlock_func& container) {
-    io::CBlock_func technology("technology");
-    io::CBlock_func conductiveLayer("conductiveLayer");
-    container >> technology;
-    technology >> conductiveLayer;
-    ReadConductiveLayers(conductiveLayer);
-}
-
 bool ZukenPCBParser::ReadConductiveLayers(const io::CBlock_func& conductiveLayer) {
     for (io::CBlock_func& argument : conductiveLayer.Funcs())
         if (argument.NameIs("layerNumber"))
-            ReadConductiveLayer(argument);
+            conductiveLayers.Append(MakeConductiveLayer(argument, layers));
     return true;
-}
-
-/// (layerNumber 1 (type POSI))
-/// (layerNumber 3 (type FULLSURF) (signalName GND))
-void ZukenPCBParser::ReadConductiveLayer(io::CBlock_func& layerNumber) {
-    int number = 0;
-    layerNumber >> number;
-    io::CBlock_func type("type");
-    layerNumber >> type;
-    AString typeText;
-    type >> typeText;
-    const bool isFull = typeText.CompareNoCase("FULLSURF") == 0;
-    const bool isPlane = isFull || typeText.CompareNoCase("POSINEGA") == 0;
-    AString name;
-    name.Format(L"Conductive_%d", number);
-    auto layer = std::make_unique<Layer>(name, number, isPlane ? Layer::k_Plane : Layer::k_Conductive, 0.0);
-    if (isFull) {
-        io::CBlock_func signalName("signalName");
-        layerNumber >> signalName;
-        signalName >> layer->signalName;
-    }
-    conductiveLayers.Add(std::move(layer));
 }

@@ -1,97 +1,165 @@
-#include "blocks/CBlock.h"
-#include "tests/neutral/WrittenBoard.h"
+#include "tests/neutral/SectionText.h"
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 
 namespace {
 
-/// The names of the items of the root block, in order.
-std::vector<std::string> RootItems(const std::string& text) {
-    io::CBlock root;
-    EXPECT_TRUE(root.Unpack(AString(text.c_str()))) << text;
-    EXPECT_EQ(root.Name(), AString("QuorelNeutralFile"));
-    std::vector<std::string> names;
-    for (const io::Node& item : root)
-        names.emplace_back(item.GetText());
-    return names;
-}
-
-TEST(ZukenConverter_WriteTest, TheFileBeginsWithItsVersionSourceAndUnit) {
-    const std::pair<const char*, const char*> units[] = {
-        {"DBUNIT", "mm"}, {"MM", "mm"}, {"MIL", "mil"}, {"INCH", "in"}, {"FOO", "mm"}};
-    for (const auto& [unit, text] : units) {
-        BoardOf board("(pcf b (header (unit " + std::string(unit) + ")))");
-        const std::string expected = "QuorelNeutralFile {\n"
-                                     "\tVersion(4, 0)\n"
-                                     "\tSource(\"Zuken\", \"\", \"\")\n"
-                                     "\tDefaultUnits = \"" +
-                                     std::string(text) + "\"\n";
-        EXPECT_EQ(WrittenText(board).substr(0, expected.size()), expected) << unit;
-    }
-}
-
-TEST(ZukenConverter_WriteTest, ABoardWithoutAHeaderHasNoUnit) {
-    BoardOf board("");
-    EXPECT_NE(WrittenText(board).find("\tDefaultUnits = \"\"\n"), std::string::npos);
-}
-
-TEST(ZukenConverter_WriteTest, LayoutDataIsTheLastTopLevelBlock) {
-    for (const char* pcf : {"", "(pcf b (header (unit MM)))"}) {
-        BoardOf board(pcf);
-        const std::string text = WrittenText(board);
-        const std::vector<std::string> items = RootItems(text);
-        ASSERT_GE(items.size(), 4U);
-        EXPECT_EQ(items[0], "Version");
-        EXPECT_EQ(items[1], "Source");
-        EXPECT_EQ(items[2], "DefaultUnits");
-        EXPECT_EQ(items.back(), "LayoutData");
-        EXPECT_TRUE(text.ends_with("\n\t}\n}\n"));
-    }
-}
-
-TEST(ZukenConverter_WriteTest, TheDesignHoldsItsNameAndTheStackup) {
-    BoardOf board(BoardWithLayers(1));
-    const std::vector<std::string> designs = BlocksOf(WrittenText(board), "Design");
-    ASSERT_EQ(designs.size(), 1U);
-    EXPECT_EQ(designs.front(), "Design {\n"
-                               "\tName = \"ZukenBoard\"\n"
-                               "\tTopLayout {\n"
-                               "\t\tLayers {\n"
-                               "\t\t\tStackupLayer(\"Conductive_1\", \"Signal\", \"Top\", 0.2, \"Copper\")\n"
-                               "\t\t}\n"
-                               "\t}\n"
-                               "}\n");
-}
-
-TEST(ZukenConverter_WriteTest, TheCellStandsAheadOfTheDesign) {
-    BoardOf board(BoardWithLayers(1));
-    const std::vector<std::string> blocks = BlocksOf(WrittenText(board), "LayoutData");
-    ASSERT_EQ(blocks.size(), 1U);
-    EXPECT_TRUE(blocks.front().starts_with("LayoutData {\n\tLayoutCell {\n"));
-    EXPECT_NE(blocks.front().find("\n\t}\n\tDesign {\n"), std::string::npos);
-    EXPECT_TRUE(blocks.front().ends_with("\n\t}\n}\n"));
-}
-
-TEST(ZukenConverter_WriteTest, ABoardWithoutLayersHasEmptyStackups) {
-    BoardOf board("");
-    EXPECT_EQ(BlocksOf(WrittenText(board), "Layers"), std::vector<std::string>(2, "Layers {\n}\n"));
-}
-
-TEST(ZukenConverter_WriteTest, AModelCanBeWrittenTwice) {
-    BoardOf board(BoardWithLayers(3));
-    const std::string first = WrittenText(board);
-    EXPECT_EQ(WrittenText(board), first);
-}
-
-TEST(ZukenConverter_WriteTest, WhatCannotBeWrittenIsFalseAsWell) {
-    BoardOf board("");
-    ZukenConverter converter(LongFileName(), LongFileName(), LongFileName(), LongFileName(AString("away/out.qrl")));
-    testing::internal::CaptureStderr();
-    EXPECT_FALSE(converter.Write(board));
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "away/out.qrl: No such file or directory\n");
+/// The file that is written for a board, whole.
+std::string Write(ZukenPCBParser& parser) {
+    const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
+    const std::filesystem::path path = std::filesystem::path(testing::TempDir()) / (std::string(test->name()) + ".qrl");
+    const LongFileName output{AString(path.string())};
+    const LongFileName noFile;
+    EXPECT_FALSE(ZukenConverter(noFile, noFile, noFile, output).Write(parser));
+    std::ifstream file(path, std::ios::binary);
+    const std::string text((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+    std::filesystem::remove(path);
+    return text;
 }
 
 } // namespace
+
+TEST(ZukenConverter_WriteTest, AnEmptyBoardHasAllItsSectionsAndTheNullPad) {
+    ZukenPCBParser parser{io::CBlock(), io::CBlock()};
+    EXPECT_EQ(Write(parser), R"(QuorelNeutralFile {
+	Version(4, 0)
+	Source("Zuken", "", "")
+	DefaultUnits = ""
+	PadShapes {
+		NULLPAD(Circle(0))
+	}
+	Padstacks {
+	}
+	Footprints {
+	}
+	Components {
+	}
+	LayoutData {
+		LayoutCell {
+			Netlist {
+			}
+			Layout {
+				Layers {
+				}
+				LayoutComponents {
+				}
+				LayoutNets {
+				}
+			}
+		}
+		Design {
+			Name = "ZukenBoard"
+			TopLayout {
+				Layers {
+				}
+			}
+		}
+	}
+}
+)");
+}
+
+TEST(ZukenConverter_WriteTest, ANamelessNetIsWrittenAsTheNetOfNoNet) {
+    ZukenPCBParser parser{io::CBlock(), io::CBlock()};
+    Net* first = parser.GetNet("A");
+    Net* second = parser.GetNet("B");
+    parser.GetNet("C");
+    first->name = AString();
+    second->name = AString();
+    EXPECT_EQ(Write(parser), R"(QuorelNeutralFile {
+	Version(4, 0)
+	Source("Zuken", "", "")
+	DefaultUnits = ""
+	PadShapes {
+		NULLPAD(Circle(0))
+	}
+	Padstacks {
+	}
+	Footprints {
+	}
+	Components {
+	}
+	LayoutData {
+		LayoutCell {
+			Netlist {
+				Net {
+					ZUKEN_DUMMY("Signal")
+				}
+				Net {
+					ZUKEN_DUMMY("Signal")
+				}
+				Net {
+					C("Signal")
+				}
+			}
+			Layout {
+				Layers {
+				}
+				LayoutComponents {
+				}
+				LayoutNets {
+					LayoutNet {
+						Name = "ZUKEN_DUMMY"
+					}
+					LayoutNet {
+						Name = "ZUKEN_DUMMY"
+					}
+					LayoutNet {
+						Name = "C"
+					}
+				}
+			}
+		}
+		Design {
+			Name = "ZukenBoard"
+			TopLayout {
+				Layers {
+				}
+			}
+		}
+	}
+}
+)");
+    EXPECT_EQ(first->name, AString("ZUKEN_DUMMY"));
+}
+
+TEST(ZukenConverter_WriteTest, BothStackupsAreEqualAndNumberDielectricsFromOne) {
+    Layer top("Conductive_1", 1, Layer::k_Conductive, 0.0);
+    Layer plane("Conductive_2", 2, Layer::k_Plane, 0.0);
+    io::CBlock root("R");
+    SectionConverter().WriteLayoutData({}, {}, {&top, &plane}, root);
+    EXPECT_EQ(TextOf(root), R"(R {
+	LayoutData {
+		LayoutCell {
+			Netlist {
+			}
+			Layout {
+				Layers {
+					StackupLayer("Conductive_1", "Signal", "Top", 0.2, "Copper")
+					StackupLayer("Dielectric_1", "Dielectric", "Neither", 1.0, "FR4")
+					StackupLayer("Conductive_2", "MetalizedSignal", "Bottom", 0.2, "Copper")
+				}
+				LayoutComponents {
+				}
+				LayoutNets {
+				}
+			}
+		}
+		Design {
+			Name = "ZukenBoard"
+			TopLayout {
+				Layers {
+					StackupLayer("Conductive_1", "Signal", "Top", 0.2, "Copper")
+					StackupLayer("Dielectric_1", "Dielectric", "Neither", 1.0, "FR4")
+					StackupLayer("Conductive_2", "MetalizedSignal", "Bottom", 0.2, "Copper")
+				}
+			}
+		}
+	}
+}
+)");
+}

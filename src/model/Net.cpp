@@ -1,0 +1,38 @@
+#include "model/Net.h"
+
+#include "lib/math/geometry/Polygon.h"
+#include "model/Surface.h"
+#include "model/Trace.h"
+#include "model/Via.h"
+
+#include <utility>
+
+namespace {
+
+template <class Record>
+int Copy_T(const std::vector<Record*>& records, std::vector<Record*>& out) {
+    out = records;
+    return static_cast<int>(out.size());
+}
+
+} // namespace
+
+Net::Net(AString netName) : name(std::move(netName)) {}
+
+int Net::GetVias(std::vector<Via*>& out) const { return Copy_T(vias, out); }
+
+int Net::GetSurfaces(std::vector<Surface*>& out) const { return Copy_T(surfaces, out); }
+
+int Net::GetTraces(std::vector<Trace*>& out) const { return Copy_T(traces, out); }
+
+geom::Box Net::ComputeBox() const {
+    geom::Box box;
+    for (const Via* via : vias)
+        box.Extend(via->location);
+    for (const Surface* surface : surfaces)
+        box.Extend(surface->outline.polygon.GetBox());
+    for (const Trace* trace : traces)
+        for (const PathVertex& vertex : trace->vertices)
+            box.Extend(geom::Point(vertex.x, vertex.y));
+    return box;
+}

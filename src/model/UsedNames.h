@@ -1,0 +1,29 @@
+#ifndef QRL_MODEL_USEDNAMES_H
+#define QRL_MODEL_USEDNAMES_H
+
+#include "blocks/AString.h"
+
+#include <cstdint>
+#include <map>
+#include <set>
+#include <unordered_map>
+
+/// Names that are taken, case by case as they are spelt. A name never becomes free again, so that a search for a free
+/// number needn't go over those that an earlier one found taken: n names made from one take about n steps.
+class UsedNames {
+public:
+    bool Contains(const AString& name) const { return m_Names.contains(name); }
+    /// Takes the name; false when it was taken already.
+    bool Add(const AString& name) { return m_Names.insert(name).second; }
+    /// Takes and returns the first of "BASE_n+1", "BASE_n+2", ... that is free. The number wraps around in 32 bits.
+    AString AddNumbered(const AString& base, int32_t n);
+
+private:
+    /// A number that is taken, to one from which to search on.
+    using Onward = std::unordered_map<int32_t, int32_t>;
+
+    std::set<AString> m_Names;
+    std::map<AString, Onward> m_OnwardByBase;
+};
+
+#endif

@@ -1,0 +1,39 @@
+#ifndef QRL_ZUKEN_LISTVALUES_H
+#define QRL_ZUKEN_LISTVALUES_H
+
+#include "blocks/CBlock_func.h"
+#include "lib/math/geometry/Point.h"
+
+// What every reader asks of a list. Nothing here fails: what isn't there is empty or 0.
+
+/// The first child of that name, to be read from its first argument; an empty list where there is none.
+io::CBlock_func GetChild_G(const io::CBlock_func& list, const char* name);
+
+/// Fills `query` with the first child of its name. False, with `query` as it was, where there is none.
+bool FindChild_G(const io::CBlock_func& list, io::CBlock_func& query);
+
+/// The number that the child of that name begins with; 0 where there is none.
+///
+///     (width 0.3)
+double GetRealOf_G(const io::CBlock_func& list, const char* name);
+
+/// The text that the child of that name begins with. A number is no text: it leaves the result empty.
+///
+///     (footLayer PAD_A)
+AString GetTextOf_G(const io::CBlock_func& list, const char* name);
+
+/// Reads what `list` begins with as a name, which may be a text or a whole number. What is neither leaves `name` as it
+/// was.
+///
+///     (reference R17)  (reference 17)
+void ReadName_G(io::CBlock_func& list, AString& name);
+
+/// The next two numbers of `list`, times `scale`; a coordinate that isn't there is 0.
+///
+///     (pt 1200 -50)
+geom::Point ReadPoint_G(io::CBlock_func& list, double scale);
+
+/// The position that the child `pt` tells, times `scale`.
+geom::Point GetPointOf_G(const io::CBlock_func& list, double scale);
+
+#endif
