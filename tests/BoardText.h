@@ -5,6 +5,7 @@
 #include "blocks/CToken_istream.h"
 #include "blocks/ReadBlock.h"
 #include "model/ZukenPCBParser.h"
+#include "tests/AssertionRecorder.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +23,9 @@ inline io::CBlock ReadListText(std::string_view text) {
 }
 
 /// The board that a board file and a footprint file of these texts describe, read to the end, without a side file.
+/// What is reported on the way, as of a board without any copper, goes nowhere.
 inline std::unique_ptr<ZukenPCBParser> ParseBoard(std::string_view pcfText, std::string_view ftfText = {}) {
+    const AssertionRecorder recorder;
     auto parser = std::make_unique<ZukenPCBParser>(ReadListText(ftfText), ReadListText(pcfText));
     parser->Parse(LongFileName());
     return parser;
