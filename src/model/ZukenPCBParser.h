@@ -46,6 +46,7 @@ public:
     ZukenPCBParser(const io::CBlock& footprintTree, const io::CBlock& boardTree);
     ZukenPCBParser(const ZukenPCBParser&) = delete;
     ZukenPCBParser& operator=(const ZukenPCBParser&) = delete;
+    ~ZukenPCBParser() = default;
 
     // ZukenPCBParser.cpp: lookups; null, false or -1 for what isn't there
 
