@@ -16,6 +16,7 @@ public:
         double componentAngle, bool isMirrored);
     Component(const Component&) = delete;
     Component& operator=(const Component&) = delete;
+    ~Component() = default;
 
     const AString& GetName() const { return name; }
     AString GetId() const { return id; }

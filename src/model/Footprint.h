@@ -15,6 +15,7 @@ public:
     Footprint(AString footprintName, std::vector<FootprintPin*> footprintPins);
     Footprint(const Footprint&) = delete;
     Footprint& operator=(const Footprint&) = delete;
+    ~Footprint() = default;
 
     AString GetName() const { return name; }
     /// Replaces `out` by the pins and returns their number.

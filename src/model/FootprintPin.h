@@ -15,6 +15,7 @@ public:
         Padstack* pinPadstack, AString pinName, geom::Point pinLocation, geom::Point pinDisplacement, double pinAngle);
     FootprintPin(const FootprintPin&) = delete;
     FootprintPin& operator=(const FootprintPin&) = delete;
+    ~FootprintPin() = default;
 
     AString GetName() const { return name; }
     /// Replaces `out` by the siblings and returns their number.

@@ -21,6 +21,7 @@ public:
     explicit Net(AString netName);
     Net(const Net&) = delete;
     Net& operator=(const Net&) = delete;
+    ~Net() = default;
 
     const AString& GetName() const { return name; }
     /// Each replaces `out` by the records and returns their number.

@@ -20,6 +20,7 @@ public:
     Padstack(AString padstackName, geom::Polygon drill, LayerPads connect, LayerPads noConnect, LayerPads thermal);
     Padstack(const Padstack&) = delete;
     Padstack& operator=(const Padstack&) = delete;
+    ~Padstack() = default;
 
     AString GetName() const { return name; }
     geom::Polygon GetHole() const { return hole; }

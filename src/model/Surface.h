@@ -15,6 +15,7 @@ public:
     Surface(Net* surfaceNet, AString layerName, geom::Polygon polygon);
     Surface(const Surface&) = delete;
     Surface& operator=(const Surface&) = delete;
+    ~Surface() = default;
 
     SurfaceLoop GetOutline() const { return outline; }
     /// Replaces `out` by the voids and returns their number.

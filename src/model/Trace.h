@@ -15,6 +15,7 @@ public:
     Trace(std::vector<PathVertex> traceVertices, AString layerName, Net* traceNet);
     Trace(const Trace&) = delete;
     Trace& operator=(const Trace&) = delete;
+    ~Trace() = default;
 
     /// Replaces `out` by the vertices and returns their number.
     int GetVertices(std::vector<PathVertex>& out) const;

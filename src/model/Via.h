@@ -17,6 +17,7 @@ public:
         Net* viaNet);
     Via(const Via&) = delete;
     Via& operator=(const Via&) = delete;
+    ~Via() = default;
 
     /// Replaces `out` by the layer names and returns their number.
     int GetNoConnectLayers(std::vector<AString>& out) const;

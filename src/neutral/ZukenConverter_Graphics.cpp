@@ -7,7 +7,7 @@
 namespace {
 
 constexpr double k_StraightHeight = 1e-10; ///< an arc of a path that isn't higher is a straight piece
-constexpr double k_CornerStep = 20.0;      ///< degrees between the corners of what stands for a circle
+constexpr int k_CornerStep = 20;           ///< degrees between the corners of what stands for a circle
 
 const geom::Circle k_NoCircle(geom::k_Origin, 0);
 
@@ -15,7 +15,7 @@ const geom::Circle k_NoCircle(geom::k_Origin, 0);
 geom::Polygon MakeCornered(const geom::Circle& circle) {
     const auto radius = static_cast<double>(circle.GetRadius());
     std::vector<geom::Point> corners;
-    for (double degrees = 0.0; degrees < 360.0; degrees += k_CornerStep) {
+    for (int degrees = 0; degrees < 360; degrees += k_CornerStep) {
         const double angle = degrees * geom::k_Pi / 180.0;
         corners.push_back(circle.GetCenter() + geom::Vector(radius * std::cos(angle), radius * std::sin(angle)));
     }
