@@ -31,8 +31,13 @@ void* operator new(std::size_t size) {
         return memory;
     throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    ++g_Allocations;
+    return std::malloc(size);
+}
+// Inlined into a caller of new, the pair of new and free looks mismatched to the compiler.
+[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace {
 
