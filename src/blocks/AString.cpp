@@ -171,7 +171,7 @@ int AString::TokenizeString(const AString& delimiters, std::vector<AString>& pie
     while (start <= size()) {
         const size_t end = std::min(m_Units.find_first_of(delimiters.m_Units, start), size());
         if (keepEmpty || end > start)
-            pieces.emplace_back(std::u16string(m_Units, start, end - start));
+            pieces.emplace_back().m_Units.assign(m_Units, start, end - start);
         start = end + 1;
     }
     return static_cast<int>(pieces.size() - before);

@@ -27,7 +27,7 @@ FOOTPRINTS = b"(ftf board (header (unit MM)))\n"
 SIDE = b"Reference PartNumber Value DNP\n"
 
 # What standard error says about a board on which nothing lies.
-NO_OUTLINE = b""
+NO_OUTLINE = b"Assertion failed: !IsEmpty(), Range_T\n"
 
 
 class Result:

@@ -99,24 +99,6 @@ TEST(ZukenPCBParser_LayersTest, TheOnlyLayerIsBothOuterLayers) {
     EXPECT_EQ(board.GetBottomConductiveLayer(), LayersOf(board)[0]);
 }
 
-TEST(ZukenPCBParser_LayersTest, ABondwireLayerIsNoOuterLayer) {
-    const BoardOf board(BoardWithLayers(4));
-    const std::vector<Layer*> layers = LayersOf(board);
-    layers[0]->type = Layer::k_Bondwire;
-    layers[1]->type = Layer::k_Plane;
-    layers[3]->type = Layer::k_Bondwire;
-    EXPECT_EQ(board.GetTopConductiveLayer(), layers[1]);
-    EXPECT_EQ(board.GetBottomConductiveLayer(), layers[2]);
-}
-
-TEST(ZukenPCBParser_LayersTest, BondwireLayersAloneGiveNoOuterLayers) {
-    const BoardOf board(BoardWithLayers(2));
-    for (Layer* layer : LayersOf(board))
-        layer->type = Layer::k_Bondwire;
-    EXPECT_EQ(board.GetTopConductiveLayer(), nullptr);
-    EXPECT_EQ(board.GetBottomConductiveLayer(), nullptr);
-}
-
 TEST(ZukenPCBParser_LayersTest, GetConductiveLayersReplacesWhatWasThere) {
     const BoardOf board(BoardWithLayers(2));
     std::vector<Layer*> layers(5, nullptr);

@@ -1,7 +1,7 @@
 #ifndef QRL_TESTS_ZUKEN_LIBRARYTEXT_H
 #define QRL_TESTS_ZUKEN_LIBRARYTEXT_H
 
-#include "tests/zuken/ListText.h"
+#include "tests/BoardText.h"
 
 #include <memory>
 #include <string>
@@ -46,12 +46,6 @@ inline std::vector<Footprint*> FootprintsOf(const ZukenPCBParser& parser) {
     std::vector<Footprint*> footprints;
     parser.GetFootprints(footprints);
     return footprints;
-}
-
-inline std::vector<Layer*> LayersOf(const ZukenPCBParser& parser) {
-    std::vector<Layer*> layers;
-    parser.GetConductiveLayers(layers);
-    return layers;
 }
 
 /// The names of records, narrow, in order.

@@ -1,6 +1,6 @@
 #include "zuken/ListValues.h"
 
-#include "tests/zuken/ListText.h"
+#include "tests/BoardText.h"
 
 TEST(ListValuesTest, ChildIsTheFirstOfItsName) {
     io::CBlock_func child = GetChild_G(ListOf("(a (b 1) (C 2) (c 3))"), "c");

@@ -1,6 +1,6 @@
 #include "zuken/PadStroke.h"
 
-#include "tests/zuken/ListText.h"
+#include "tests/BoardText.h"
 
 namespace {
 

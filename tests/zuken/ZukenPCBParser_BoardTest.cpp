@@ -1,4 +1,5 @@
 #include "model/ZukenPCBParser.h"
+#include "tests/AssertionRecorder.h"
 #include "tests/BoardText.h"
 
 #include <gtest/gtest.h>
@@ -241,6 +242,7 @@ TEST(ZukenPCBParser_BoardTest, ListsAmongTheSectionsArePassedOver) {
 
 TEST(ZukenPCBParser_BoardTest, ReadingTheTreeAgainReadsAllOfIt) {
     BoardOf board("(pcf b (technologyContainer (technology t (conductiveLayer (layerNumber 6 (type POSINEGA))))))");
+    const AssertionRecorder recorder; // of a board without copper
     EXPECT_TRUE(board.ParseBoardFile());
     EXPECT_EQ(StackupOf(board), std::vector<std::string>(2, "Conductive_6 is 6 of type 1"));
 }

@@ -3,7 +3,7 @@
 #include "model/PadRectangle.h"
 #include "model/PadRoundThermal.h"
 #include "tests/AssertionRecorder.h"
-#include "tests/zuken/ListText.h"
+#include "tests/BoardText.h"
 
 #include <gmock/gmock.h>
 
