@@ -139,7 +139,7 @@ void AString::Trim() {
     m_Units = m_Units.substr(first, m_Units.find_last_not_of(k_Blanks) + 1 - first);
 }
 
-/// Walks text and pattern together. On a mismatch it goes back to the last `*` and lets that take one unit more; an
+/// Walks text and pattern together. On a mismatch it goes back to the last `*` and lets that take one unit more. An
 /// earlier
 /// `*` never has to be tried again, as the last one can take over whatever it would have taken.
 bool AString::Match(const AString& pattern) const {

@@ -89,6 +89,7 @@ public:
     bool IsFunc() const override { return true; }
     bool IsVec() const override { return true; }
     size_t SizeOf(bool withTree) const override;
+    bool Query(wchar_t* /*value*/) const override { return false; }
     bool Query(bool& /*value*/) const override { return false; }
     bool Query(AString& /*value*/) const override { return false; }
     bool Query(unsigned long long& /*value*/) const override { return false; }
@@ -101,7 +102,6 @@ public:
     bool Query(short& /*value*/) const override { return false; }
     bool Query(float& /*value*/) const override { return false; }
     bool Query(double& /*value*/) const override { return false; }
-    bool Query(wchar_t* /*value*/) const override { return false; }
 
 private:
     friend class FuncRange;

@@ -19,7 +19,7 @@ public:
 
     /// Whether nothing is held: no argument, no item, no token.
     virtual bool Empty() const { return Size() == 0; }
-    /// How many arguments or items are held; 1 for a value or named value.
+    /// How many arguments or items are held; 1 for a value or named value, 0 for an empty one.
     virtual int Size() const = 0;
     /// Drops what is held and keeps the name.
     virtual void Clear() = 0;
@@ -37,6 +37,8 @@ public:
 /// An entry that can also stand as an argument of a func: a func or a value.
 class CBlock_func_arg : public CBlock_item {
 public:
+    /// The text with a closing 0, for a buffer that the caller knows to be large enough.
+    virtual bool Query(wchar_t* value) const = 0;
     /// The reads by type. Each returns false, with the target unchanged, where the argument is of another kind, as a
     /// func is of any. Text is given for every value, as it stands in the file.
     virtual bool Query(bool& value) const = 0;
@@ -51,8 +53,6 @@ public:
     virtual bool Query(short& value) const = 0;
     virtual bool Query(float& value) const = 0;
     virtual bool Query(double& value) const = 0;
-    /// The text with a closing 0, for a buffer that the caller knows to be large enough.
-    virtual bool Query(wchar_t* value) const = 0;
 };
 
 } // namespace io

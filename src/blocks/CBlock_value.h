@@ -27,6 +27,7 @@ public:
     void Clear() override { m_Token = CToken(); }
     bool IsValue() const override { return true; }
     size_t SizeOf(bool withTree) const override;
+    bool Query(wchar_t* value) const override;
     bool Query(bool& value) const override { return QueryAs(value); }
     bool Query(AString& value) const override;
     bool Query(unsigned long long& value) const override { return QueryAs(value); }
@@ -39,7 +40,6 @@ public:
     bool Query(short& value) const override { return QueryAs(value); }
     bool Query(float& value) const override { return QueryAs(value); }
     bool Query(double& value) const override { return QueryAs(value); }
-    bool Query(wchar_t* value) const override;
 
 private:
     template <class T>

@@ -2,6 +2,8 @@
 
 #include "blocks/TextStreams.h"
 
+#include <algorithm>
+
 namespace io {
 
 std::string CStreamio_object::BinaryPack() const {

@@ -58,7 +58,8 @@ std::optional<CToken> NeutralReader::ReadValue() {
         return {};
     TextOstream written;
     NeutralWriter(written).WriteValue(*value);
-    return Accept(written.GetText()) ? value : std::nullopt;
+    const bool isAllWritten = written.GetText().size() == m_At - m_Accepted;
+    return isAllWritten && Accept(written.GetText()) ? value : std::nullopt;
 }
 
 /// An item of a block: a name, and behind it what tells the three kinds apart.
@@ -130,7 +131,8 @@ std::optional<CToken> NeutralReader::ParseBareValue(std::string_view text) {
         return CToken::OfNode(Node::OfBool(text == "true"));
     int whole = 0;
     const char* end = text.data() + text.size();
-    if (std::from_chars(text.data(), end, whole).ptr == end && !text.empty())
+    const auto [wholeEnd, wholeError] = std::from_chars(text.data(), end, whole);
+    if (wholeError == std::errc() && wholeEnd == end)
         return CToken::OfNode(Node::OfInt(whole));
     double number = 0.0;
     const auto [numberEnd, error] = std::from_chars(text.data(), end, number);

@@ -136,17 +136,29 @@ void NodeList::ExpectText(size_t size) {
     m_Storage->m_Expected = std::min(size / k_BytesPerNode + 1, k_MaxNodes);
 }
 
-/// Grows to at least half as much again, so that appending n nodes costs n. A tree that turns out to be large grows at
-/// once to what is expected of it.
+/// A tree that turns out to be large grows at once to what is expected of it. That is a guess, and tried once: a system
+/// that has no room for it may well have room for what the tree really takes.
+bool NodeList::GrowAsExpected(size_t capacity) {
+    if (GetBytes(capacity) < base::k_LargeSize || m_Storage->m_Expected <= capacity)
+        return false;
+    const size_t expected = std::exchange(m_Storage->m_Expected, 0);
+    void* grown = base::TryResizeLarge(m_Storage, GetBytes(m_Storage->m_Capacity), GetBytes(expected));
+    if (grown == nullptr)
+        return false;
+    m_Storage = static_cast<Storage*>(grown);
+    m_Storage->m_Capacity = expected;
+    return true;
+}
+
+/// Grows to at least half as much again, so that appending n nodes costs n.
 void NodeList::Reserve(size_t count) {
     if (count > k_MaxNodes - m_Storage->m_Size)
         throw std::length_error("a tree of blocks has more than 2^32 - 1 nodes");
     const size_t needed = m_Storage->m_Size + count;
-    size_t capacity = std::max(needed, m_Storage->m_Size + m_Storage->m_Size / 2 + k_FirstCapacity);
-    if (GetBytes(capacity) >= base::k_LargeSize)
-        capacity = std::max(capacity, m_Storage->m_Expected);
+    const size_t capacity = std::max(needed, m_Storage->m_Size + m_Storage->m_Size / 2 + k_FirstCapacity);
     if (m_Storage->m_Users == 1) {
-        Resize(capacity);
+        if (!GrowAsExpected(capacity))
+            Resize(capacity);
         return;
     }
     Storage* own = Allocate(capacity);

@@ -119,6 +119,7 @@ private:
     }
     void Reserve(size_t count);
     void Resize(size_t capacity);
+    bool GrowAsExpected(size_t capacity);
     void CountReferences(const Node* first, const Node* end);
 
     Storage* m_Storage;

@@ -22,7 +22,8 @@ bool ReadBlock(CToken_istream& stream, CBlock& block);
 /// Reads one list whose opening parenthesis has been consumed, with all lists within it, and consumes the parenthesis
 /// that closes it. The end of the text closes all that is open. A list without a head is named "__NIL__"; the content
 /// of lists named "propertys" and "string" is passed over, up to the next closing parenthesis whatever that closes.
-/// Throws `XStreamioError` where a list has another list for a head, or neither head nor end. Takes no call stack per
+/// Throws `XStreamioError` where a list has another list for a head, or neither head nor end, and where a quoted
+/// string is never closed. Takes no call stack per
 /// level.
 void ReadFunc(CToken_istream& stream, CBlock_ptr<CBlock_func>& func);
 

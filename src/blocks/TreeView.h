@@ -27,8 +27,6 @@ public:
     void Clear() { *this = TreeView(GetRoot()->GetKind(), GetName()); }
     /// The nodes for a change: a tree of its own, of which this is the root.
     NodeList& Own();
-    /// Moves to another node of the same tree.
-    void MoveTo(const Node* place) { m_Root = static_cast<size_t>(place - m_Nodes.GetRoot()); }
     size_t GetMemory() const { return m_Nodes.GetMemory(); }
 
 private:

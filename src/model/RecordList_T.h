@@ -10,7 +10,7 @@
 #include <vector>
 
 /// The records of one kind in the order in which they were made. Owns them; a record stays where it is until the list
-/// goes. `Record` has a `GetName()`, which doesn't change while it is in the list.
+/// goes. `Record` has a `GetName()`, by which it is found: the one that it had when it was added.
 template <class Record>
 class RecordList_T {
 public:

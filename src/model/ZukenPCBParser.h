@@ -284,7 +284,7 @@ private:
     RecordList_T<FPLayer> footprintLayers;
     io::CBlock fpData;
     double coordScale = 1.0;   ///< every length of both files times this is a length of the output
-    AString unitName;          ///< "mm", "mil" or "in"
+    AString unitName;          ///< "mm", "mil" or "in"; empty before any header
     NameMap nameMap;           ///< a component's reference as the files spell it, to its name
     LayerStack bondwireLayers; ///< one for each bond wire number
     int32_t layerCount = 1;    ///< read by nothing

@@ -84,8 +84,8 @@ inline constexpr char k_Neither[] = "Neither";
 inline constexpr char k_Copper[] = "Copper";
 inline constexpr char k_FR4[] = "FR4";
 
-/// Words that belong to the format and that this program doesn't write. A new section must not give them another
-/// meaning.
+/// Words that belong to the format and that this program doesn't write as a keyword. A new section must not give them
+/// another meaning.
 inline constexpr auto k_Reserved = std::to_array<std::string_view>({
     "FIDUCIAL",
     "QRELSMALLPAD",

@@ -1,4 +1,5 @@
 #include "blocks/CBlock_value.h"
+#include "blocks/TextStreams.h"
 
 #include "tests/blocks/BlockText.h"
 
@@ -110,6 +111,17 @@ TEST(CBlock_valueTest, TheTextFormIsReadBack) {
     EXPECT_FALSE(value.Unpack("-2.5 "));
     EXPECT_FALSE(value.Unpack("abc"));
     EXPECT_EQ(TextOf(value), "-2.5") << "unchanged where the text is refused";
+}
+
+/// `write` puts none of these, though each begins like a value.
+TEST(CBlock_valueTest, ANumberThatIsNotInItsShortestFormIsRefused) {
+    for (const char* text : {"1.50", "infinity", "0099999999999", "99999999999", "-0"}) {
+        CBlock_value value(AString("kept"));
+        TextIstream stream(text);
+        EXPECT_FALSE(value.read(stream)) << text;
+        EXPECT_EQ(stream.GetRest(), text);
+        EXPECT_TRUE(value == CBlock_value(AString("kept"))) << text;
+    }
 }
 
 } // namespace

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <sys/resource.h>
+
 #include <string>
 #include <string_view>
 #include <utility>
@@ -20,6 +23,26 @@ std::string NodesOf(const NodeList& nodes) {
         text += std::string(node->GetText()) + std::to_string(node->GetExtent()) + ' ';
     return text;
 }
+
+// A sanitizer takes more address space than the limit leaves.
+#ifndef __SANITIZE_ADDRESS__
+/// Builds a large tree of which much more is expected than this process may have.
+[[noreturn]] void GrowBeyondTheExpectedInLittleMemory() {
+    constexpr rlim_t k_AddressSpace = rlim_t{128} << 20;
+    const rlimit limit = {k_AddressSpace, k_AddressSpace};
+    setrlimit(RLIMIT_AS, &limit);
+    NodeList nodes(NodeKind::k_Func, "root");
+    nodes.ExpectText(size_t{1} << 32);
+    constexpr int k_Nodes = 1000000;
+    for (int i = 0; i < k_Nodes; ++i)
+        nodes.Append(Node::OfInt(i));
+    std::_Exit(nodes.GetEnd() - nodes.GetRoot() == k_Nodes + 1 && nodes.GetEnd()[-1].GetInt() == k_Nodes - 1 ? 0 : 1);
+}
+
+TEST(NodeListDeathTest, ATreeThatFitsIsBuiltAlsoWhereWhatIsExpectedOfItDoesNot) {
+    EXPECT_EXIT(GrowBeyondTheExpectedInLittleMemory(), testing::ExitedWithCode(0), "");
+}
+#endif
 
 TEST(NodeListTest, ARootStandsAlone) {
     const NodeList nodes(NodeKind::k_Func, "root");

@@ -86,7 +86,7 @@ void AvlNode::MarkAllDirty() {
 int AvlNode::JoinBalanced(AvlNode* left, int left_height, AvlNode* right, int right_height) {
     SetChildren(left, right);
     UpdateCount();
-    QRL_ASSERT("AvlNode", "left_height >= right_height", left_height >= right_height);
+    QRL_ASSERT("AvlTree.h", "left_height >= right_height", left_height >= right_height);
     m_Balance = left_height > right_height ? -1 : 0;
     return left_height + 1;
 }

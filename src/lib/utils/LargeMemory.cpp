@@ -21,7 +21,7 @@ void* MapPages(size_t size) {
     void* mapped =
         mmap(nullptr, pages + k_HugePage, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     if (mapped == MAP_FAILED)
-        throw std::bad_alloc();
+        return nullptr;
     char* first = static_cast<char*>(mapped);
     const size_t head = (k_HugePage - reinterpret_cast<uintptr_t>(first) % k_HugePage) % k_HugePage;
     if (head != 0)
@@ -31,36 +31,42 @@ void* MapPages(size_t size) {
     return first + head;
 }
 
-} // namespace
+void* TryAllocate(size_t size) { return size >= k_LargeSize ? MapPages(size) : std::malloc(size); }
 
-void* AllocateLarge(size_t size) {
-    if (size >= k_LargeSize)
-        return MapPages(size);
-    void* memory = std::malloc(size);
+void* TryRemapPages(void* memory, size_t oldSize, size_t newSize) {
+    void* resized = mremap(memory, ToPages(oldSize), ToPages(newSize), MREMAP_MAYMOVE);
+    if (resized == MAP_FAILED)
+        return nullptr;
+    madvise(resized, ToPages(newSize), MADV_HUGEPAGE);
+    return resized;
+}
+
+void* Checked(void* memory) {
     if (memory == nullptr)
         throw std::bad_alloc();
     return memory;
 }
 
+} // namespace
+
+void* AllocateLarge(size_t size) { return Checked(TryAllocate(size)); }
+
 void* ResizeLarge(void* memory, size_t oldSize, size_t newSize) {
+    return Checked(TryResizeLarge(memory, oldSize, newSize));
+}
+
+void* TryResizeLarge(void* memory, size_t oldSize, size_t newSize) noexcept {
     if (memory == nullptr)
-        return AllocateLarge(newSize);
+        return TryAllocate(newSize);
     const bool wasLarge = oldSize >= k_LargeSize;
     const bool isLarge = newSize >= k_LargeSize;
-    if (wasLarge && isLarge) {
-        void* resized = mremap(memory, ToPages(oldSize), ToPages(newSize), MREMAP_MAYMOVE);
-        if (resized == MAP_FAILED)
-            throw std::bad_alloc();
-        madvise(resized, ToPages(newSize), MADV_HUGEPAGE);
-        return resized;
-    }
-    if (!wasLarge && !isLarge) {
-        void* resized = std::realloc(memory, newSize);
-        if (resized == nullptr)
-            throw std::bad_alloc();
-        return resized;
-    }
-    void* moved = AllocateLarge(newSize);
+    if (wasLarge && isLarge)
+        return TryRemapPages(memory, oldSize, newSize);
+    if (!wasLarge && !isLarge)
+        return std::realloc(memory, newSize);
+    void* moved = TryAllocate(newSize);
+    if (moved == nullptr)
+        return nullptr;
     std::memcpy(moved, memory, std::min(oldSize, newSize));
     FreeLarge(memory, oldSize);
     return moved;

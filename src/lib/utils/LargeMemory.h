@@ -16,8 +16,10 @@ inline constexpr size_t k_LargeSize = size_t{4} * 1024 * 1024;
 /// `size` bytes of undefined content, aligned for any type.
 void* AllocateLarge(size_t size);
 /// The same bytes in a piece of `newSize` bytes; `memory` is gone. On failure throws and leaves `memory` as it was.
-/// Null is a piece of no bytes.
+/// Null is a piece of no bytes. `newSize` is above 0.
 void* ResizeLarge(void* memory, size_t oldSize, size_t newSize);
+/// The same, with null in place of an exception: for a size that is a guess.
+void* TryResizeLarge(void* memory, size_t oldSize, size_t newSize) noexcept;
 /// Gives back a piece of `size` bytes. Null is ignored.
 void FreeLarge(void* memory, size_t size) noexcept;
 

@@ -19,7 +19,7 @@ public:
     /// Null.
     RefCounter_T() = default;
     /// Takes ownership of `data`, which may be null. Where there is no memory left for the count it stays without one:
-    /// the object is then never deleted, and every later operation reports it.
+    /// the object is then never deleted, and copies, IsUnique, MakeUnique and the end of the handle report it.
     explicit RefCounter_T(T* data) : m_DataPtr(data), m_CounterPtr(NewCounterFor(data)) {}
     RefCounter_T(const RefCounter_T& other);
     RefCounter_T(RefCounter_T&& other) noexcept;

@@ -264,7 +264,7 @@ TEST_F(AvlNodeTest, JoinBalancedLeansLeftOrNotAtAll) {
 TEST_F(AvlNodeTest, JoiningAHigherRightSideIsReported) {
     std::array<AvlNode, 2> nodes;
     nodes[0].JoinBalanced(nullptr, 0, &nodes[1], 1);
-    EXPECT_THAT(AssertionRecorder::Take(), ElementsAre("left_height >= right_height, AvlNode"));
+    EXPECT_THAT(AssertionRecorder::Take(), ElementsAre("left_height >= right_height, AvlTree.h"));
 }
 
 TEST_F(AvlNodeTest, NavigationFromNullIsReportedAndGivesNull) {

@@ -36,8 +36,9 @@ public:
     /// From `p1` through `p2` to `p3`. Collinear points give the straight piece from `p1` to `p3`.
     Arc(Point p1, Point p2, Point p3);
     /// Between the ends of `segment`, around `center`. The ends are kept as they are and need not be equally far from
-    /// the centre: the radius is the mean of their distances, and never below half the chord. A difference of a third
-    /// of the chord is reported. Equal ends give a full circle, which is reported too.
+    /// the centre: the radius is the mean of their distances, and never below half the chord. A centre
+    /// that lies a third of the chord or more off the chord's bisector is reported. Equal ends give a full circle,
+    /// which is reported too.
     Arc(const Segment& segment, Direction direction, Point center);
 
     constexpr Point GetStart() const { return m_Start; }

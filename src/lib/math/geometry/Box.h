@@ -29,7 +29,8 @@ struct BoxSegmentResult {
 /// The axis-parallel rectangle: the bound of every shape, the source of its tolerance, and a shape of its own.
 ///
 /// Closed: its outline belongs to it, and it may be as thin as a segment or a point. It is empty when either of its
-/// ranges is. Operations with an `accuracy` treat a box that is thin within it as the smaller shape that it is.
+/// ranges is. IntersectsLine, IntersectsSegment and GetClipped treat a box that is thin within `accuracy` as the
+/// segment or point that it is.
 ///
 ///     2 --- edge 1 --- 1      vertices count from 1, edges from 0;
 ///     |                |      edge 0 goes up, 1 left, 2 down, 3 right
@@ -93,7 +94,8 @@ public:
     bool IntersectsLine(const Line& line, Unit accuracy) const;
     bool IntersectsSegment(const Segment& segment, Unit accuracy) const;
     /// The part of `segment` in the box expanded by `accuracy`, in the segment's direction. What is left as short as
-    /// `accuracy` comes as its midpoint, twice.
+    /// `accuracy` comes as its midpoint, twice; a segment that is so short itself as its start, a point-like box as its
+    /// centre.
     BoxSegmentResult GetClipped(const Segment& segment, Unit accuracy) const;
     /// How this box lies to `other`; inside and around are strict, by more than `accuracy` on all four sides.
     BoxRelation GetRelationTo(const Box& other, Unit accuracy) const;

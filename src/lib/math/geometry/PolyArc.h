@@ -51,7 +51,8 @@ public:
     /// The area inside a closed chain, positive when it runs counter-clockwise. An open chain is reported and summed as
     /// if closed by a straight piece; an empty one is reported and has none.
     Area GetArea() const;
-    /// Whether the chain is one circle within `accuracy`: all arcs of one sense about one centre with one radius. What
+    /// Whether the chain is one circle within `accuracy`: all arcs of one sense about one centre with one radius. A
+    /// chain of one arc is judged exactly, and a point counts. What
     /// it lies on then goes to `circumference` unless that is null; of several arcs, the first one's.
     bool IsCircle(Unit accuracy, Circumference* circumference = nullptr) const;
     /// Whether both have equal arcs in the same order. Open or closed makes no difference.

@@ -15,8 +15,8 @@ enum CornerMode : std::uint32_t {
 
 // A corner is where two pieces of a chain meet. To round it is to find the circle of a given radius that touches both
 // pieces, and the arc of it that leads from the first piece to the second. There is no success when that circle touches
-// the pieces' continuations instead, because the radius is too big for them. What has no corner, being straight, gives
-// a point-like arc there.
+// the pieces' continuations instead, because the radius is too big for them. What has no corner, as all
+// three points lie on one line, gives a point-like arc there.
 
 /// Rounds the polyline a, b, c at b. k_LongWay gives the other way round from the same start to the same end.
 ArcResult GetRoundCorner(Point a, Point b, Point c, Unit radius, CornerMode mode);

@@ -22,9 +22,9 @@ RoundedPair GetRoundedPair(const Arc& a1, const Arc& a2, Unit prefered_radius, U
 /// Rounds all corners of a sequence of arcs, each with the largest radius that GetRoundedPair finds for it. A corner
 /// is rounded between the halves of its two arcs, so that neighbouring corners can't fight over one arc.
 ///
-/// An arc both of whose corners stay sharp stays whole; one that is cut at a corner stays cut in the middle too. A
-/// closed result starts in the middle of the first arc. Fewer than two arcs come back as they are; a list that is no
-/// sequence is reported.
+/// An arc both of whose corners stay sharp stays whole, but for the first one of a closed list; one that is cut at a
+/// corner stays cut in the middle too. A closed result starts in the middle of the first arc. Fewer than two arcs come
+/// back as they are; a list that is no sequence is reported.
 std::vector<Arc> GetRoundedArcs(
     const std::vector<Arc>& arcs, Unit prefered_radius, Unit min_radius, OpenClosed open_closed);
 

@@ -13,8 +13,8 @@ class Polygon;
 
 /// The straight piece between two points, directed from start to end; both ends belong to it and may be equal.
 ///
-/// `accuracy` arguments are distances; 0 asks for the exact answer. Distances are compared as squares wherever that
-/// spares a root.
+/// `accuracy` arguments are distances, in IsPoint and IsEqualTo for each coordinate; 0 asks for the exact answer.
+/// Distances are compared as squares wherever that spares a root.
 class Segment {
 public:
     constexpr Segment() = default;

@@ -30,7 +30,7 @@ public:
     /// -1, 0 or 1; 0 for a NaN.
     constexpr int GetSign() const { return (m_Value > 0) - (m_Value < 0); }
     /// The tolerance that belongs to a length of this size: a thousand units in its last place, never 0. A length
-    /// beyond a thousand times k_InfiniteUnit is reported.
+    /// beyond 1001 times k_InfiniteUnit is reported.
     Unit GetEpsilon() const;
 
     friend constexpr bool operator==(Unit a, Unit b) = default;
