@@ -44,7 +44,8 @@ public:
         const double height = double(chord.GetLength()) * std::exp(GetReal(std::log(1e-3), std::log(3.0)));
         return {chord.GetStart(), chord.GetEnd(), GetChance(0.5) ? height : -height};
     }
-    /// An ordinary arc, but also a half or full circle, a flat one, or one just beside a half circle.
+    /// An ordinary arc, but also a half or full circle, a flat one, one just beside a half circle,
+    /// or one whose ends are neighbours.
     geom::Arc GetAnyCurvedArc();
 
     /// One of the numbers that break arithmetic, or a neighbour of one; finite.
@@ -76,6 +77,8 @@ inline geom::Arc RandomShapes::GetAnyCurvedArc() {
             arc.GetDirection()};
     case 4:
         return {arc.GetStart(), arc.GetEnd(), sign * half * 1e-6};
+    case 5: // all of a circle but one unit in the last place
+        return {{half, 3}, {Up(half), 3}, sign * 2 * half};
     default:
         return arc;
     }
