@@ -11,19 +11,6 @@
 
 namespace {
 
-/// The name may be anything; a number gives its shortest form, so that 007 is pin 7.
-AString ReadPinName(io::CBlock_func& pin) {
-    int number = 0;
-    bool isNumber = false;
-    pin >> number >> io::Query_ok(isNumber);
-    AString name;
-    if (isNumber)
-        name.Format(L"%d", number);
-    else if (pin.begin() != pin.end())
-        pin.Item(pin.begin())->Query(name);
-    return name;
-}
-
 /// The number with six decimals.
 std::string FormatFixed(double value) {
     std::array<char, 320> text{}; // the largest double has 309 digits ahead of the point
@@ -36,7 +23,7 @@ std::string FormatFixed(double value) {
 /// (pin 1 (pt -47500 0) (layout (layer (footLayer PAD_A) (fPad R50X55 ...))))
 void ZukenPCBParser::FootprintPinReader::ReadPin(io::CBlock_func& pin) {
     m_Source = Source();
-    m_Source.m_Name = ReadPinName(pin);
+    m_Source.m_Name = ReadPinName_G(pin);
     m_Source.m_Location = GetPointOf_G(pin, m_Parser.coordScale);
     for (io::CBlock_func& item : GetChild_G(GetChild_G(pin, "layout"), "layer").Funcs())
         ReadItem(item);

@@ -1,9 +1,30 @@
 #include "zuken/ListValues.h"
 
+#include "blocks/FuncRange.h"
+
+namespace {
+
+/// The value that the first child of that name begins with, or the value of nothing. Makes no list of its own, as half
+/// of the questions concern what isn't there.
+template <class T>
+T ReadChild_T(const io::CBlock_func& list, const char* name) {
+    T value{};
+    for (io::CBlock_func& child : list.Funcs()) {
+        if (!child.NameIs(name))
+            continue;
+        child >> value;
+        break;
+    }
+    return value;
+}
+
+} // namespace
+
 io::CBlock_func GetChild_G(const io::CBlock_func& list, const char* name) {
-    io::CBlock_func child(name);
-    list >> child;
-    return child;
+    for (const io::CBlock_func& child : list.Funcs())
+        if (child.NameIs(name))
+            return child;
+    return io::CBlock_func(name);
 }
 
 bool FindChild_G(const io::CBlock_func& list, io::CBlock_func& query) {
@@ -12,17 +33,9 @@ bool FindChild_G(const io::CBlock_func& list, io::CBlock_func& query) {
     return isFound;
 }
 
-double GetRealOf_G(const io::CBlock_func& list, const char* name) {
-    double value = 0.0;
-    GetChild_G(list, name) >> value;
-    return value;
-}
+double GetRealOf_G(const io::CBlock_func& list, const char* name) { return ReadChild_T<double>(list, name); }
 
-AString GetTextOf_G(const io::CBlock_func& list, const char* name) {
-    AString text;
-    GetChild_G(list, name) >> text;
-    return text;
-}
+AString GetTextOf_G(const io::CBlock_func& list, const char* name) { return ReadChild_T<AString>(list, name); }
 
 void ReadName_G(io::CBlock_func& list, AString& name) {
     bool isRead = false;
@@ -34,6 +47,26 @@ void ReadName_G(io::CBlock_func& list, AString& name) {
     list >> number >> io::Query_ok(isRead);
     if (isRead)
         name.Format(L"%d", number);
+}
+
+void ReadAnyText_G(const io::CBlock_func& list, AString& text) {
+    if (list.begin() == list.end())
+        return;
+    const io::CBlock_ptr<io::CBlock_func_arg> first = list.Item(list.begin());
+    if (first.Item() != nullptr)
+        first->Query(text);
+}
+
+AString ReadPinName_G(io::CBlock_func& pin) {
+    AString name;
+    int number = 0;
+    bool isNumber = false;
+    pin >> number >> io::Query_ok(isNumber);
+    if (isNumber)
+        name.Format(L"%d", number);
+    else
+        ReadAnyText_G(pin, name);
+    return name;
 }
 
 geom::Point ReadPoint_G(io::CBlock_func& list, double scale) {

@@ -28,6 +28,15 @@ AString GetTextOf_G(const io::CBlock_func& list, const char* name);
 ///     (reference R17)  (reference 17)
 void ReadName_G(io::CBlock_func& list, AString& name);
 
+/// Replaces `text` by that of the value that `list` begins with, of whatever kind, as it stands in the file. Where
+/// there is no value `text` stays as it was.
+void ReadAnyText_G(const io::CBlock_func& list, AString& text);
+
+/// What a list of a pin begins with: a whole number as such, so that 007 is pin 7, and any other value as its text.
+///
+///     (pin A1)  (pin 7)
+AString ReadPinName_G(io::CBlock_func& pin);
+
 /// The next two numbers of `list`, times `scale`; a coordinate that isn't there is 0.
 ///
 ///     (pt 1200 -50)

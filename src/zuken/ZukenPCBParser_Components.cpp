@@ -1,4 +1,3 @@
-#include "blocks/CBlock_value.h"
 #include "blocks/FuncRange.h"
 #include "model/ZukenPCBParser.h"
 #include "zuken/ComponentDraft.h"
@@ -10,21 +9,12 @@ namespace {
 
 constexpr double k_FullTurn = 360.0; ///< degrees
 
-/// Replaces `part` by the first argument as text, of whatever kind its value is.
-void ReadPart(const io::CBlock_func& list, AString& part) {
-    if (list.begin() == list.end())
-        return;
-    const io::CBlock_ptr<io::CBlock_value> value(list.Item(list.begin()));
-    if (value.Item() != nullptr)
-        part = value->GetToken().GetAString();
-}
-
 /// Reads what says something of the component alone.
 void ReadProperty(io::CBlock_func& item, double scale, ComponentDraft& draft) {
     if (item.NameIs("reference"))
         ReadName_G(item, draft.reference);
     else if (item.NameIs("part"))
-        ReadPart(item, draft.part);
+        ReadAnyText_G(item, draft.part);
     else if (item.NameIs("footprint"))
         ReadName_G(item, draft.footprintName);
     else if (item.NameIs("placementSide"))

@@ -4,22 +4,6 @@
 
 namespace {
 
-/// The name of a pin: a whole number as such, anything else as its text stands in the file.
-AString GetPinName(io::CBlock_func pin) {
-    AString name;
-    bool isNumber = false;
-    int number = 0;
-    pin >> number >> io::Query_ok(isNumber);
-    if (isNumber) {
-        name.Format(L"%d", number);
-    } else if (pin.begin() != pin.end()) {
-        const io::CBlock_ptr<io::CBlock_func_arg> first = pin.Item(pin.begin());
-        if (first.Item() != nullptr)
-            first->Query(name);
-    }
-    return name;
-}
-
 AString GetPinRef(const Component& component, const AString& reference, const FootprintPin& pin) {
     AString text;
     text.Format(L"%s.%d", reference, component.footprint->GetPinIndex(pin.name));
@@ -59,7 +43,8 @@ void ZukenPCBParser::ReadNetPin(io::CBlock_func& comp, Net* net) {
     const Component* component = FindComponent(reference);
     if (component == nullptr || component->footprint == nullptr)
         return;
-    const FootprintPin* pin = component->footprint->FindPin(GetPinName(GetChild_G(comp, "pin")));
+    io::CBlock_func pinList = GetChild_G(comp, "pin");
+    const FootprintPin* pin = component->footprint->FindPin(ReadPinName_G(pinList));
     if (pin == nullptr)
         return;
     if (pin->padstack != nullptr && pin->padstack->HasMultiLoopPad()) {

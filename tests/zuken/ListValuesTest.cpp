@@ -51,6 +51,32 @@ TEST(ListValuesTest, FoundChildFillsTheQuery) {
     EXPECT_EQ(2, value) << "it stays as it was";
 }
 
+TEST(ListValuesTest, AnyTextIsWhatStandsInTheFile) {
+    const auto textOf = [](std::string_view list) {
+        AString text("before");
+        ReadAnyText_G(ListOf(list), text);
+        return text.QRL_ANSI();
+    };
+    EXPECT_EQ("1.50", textOf("(part 1.50)"));
+    EXPECT_EQ("a b", textOf("(part \"a b\")"));
+    EXPECT_EQ("word", textOf("(part word 7)"));
+    EXPECT_EQ("before", textOf("(part (x 7))"));
+    EXPECT_EQ("before", textOf("(part)"));
+}
+
+TEST(ListValuesTest, PinNameIsAWholeNumberOrAnyText) {
+    const auto nameOf = [](std::string_view list) {
+        io::CBlock_func pin = ListOf(list);
+        return ReadPinName_G(pin).QRL_ANSI();
+    };
+    EXPECT_EQ("7", nameOf("(pin 007)"));
+    EXPECT_EQ("A1", nameOf("(pin A1)"));
+    EXPECT_EQ("007", nameOf("(pin \"007\")"));
+    EXPECT_EQ("1.50", nameOf("(pin 1.50)"));
+    EXPECT_EQ("", nameOf("(pin (layout))"));
+    EXPECT_EQ("", nameOf("(pin)"));
+}
+
 TEST(ListValuesTest, NameIsATextOrAWholeNumber) {
     const auto nameOf = [](std::string_view text) {
         AString name("before");

@@ -2,10 +2,13 @@
 
 #include <gmock/gmock.h>
 
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace {
 
@@ -150,13 +153,20 @@ TEST(ZukenPCBParser_TextFileTest, MissingFileEndsWithoutALine) {
 }
 
 TEST(ZukenPCBParser_TextFileTest, FileThatCannotBeReadIsTreatedAsMissing) {
-    const SideFile file("a b c\nX9 ABC 10k\n");
-    std::filesystem::permissions(file.GetPath(), std::filesystem::perms::none);
-    if (std::ifstream(file.GetPath()).is_open())
-        GTEST_SKIP() << "this user may read every file";
+    // A socket is there, and nobody can open it, whatever the user's rights.
+    const std::string path = testing::TempDir() + "qrl_side_socket_" + std::to_string(getpid());
+    sockaddr_un address = {AF_UNIX, {}};
+    ASSERT_LT(path.size(), sizeof address.sun_path);
+    path.copy(address.sun_path, path.size());
+    const int socketFile = socket(AF_UNIX, SOCK_STREAM, 0);
+    ASSERT_EQ(0, bind(socketFile, reinterpret_cast<const sockaddr*>(&address), sizeof address));
+    const LongFileName fileName(path.c_str());
+    EXPECT_TRUE(fileName.Exists());
     testing::internal::CaptureStdout();
-    EXPECT_FALSE(MakeParser()->ParseTextFile(LongFileName(file.GetPath().c_str())));
+    EXPECT_FALSE(MakeParser()->ParseTextFile(fileName));
     EXPECT_EQ("", testing::internal::GetCapturedStdout());
+    close(socketFile);
+    std::filesystem::remove(path);
 }
 
 TEST(ZukenPCBParser_TextFileTest, FieldsAreTrimmedAndEmptyOnesDropped) {
