@@ -110,6 +110,26 @@ TEST(ZukenPCBParser_LinesTest, LengthsAreScaled) {
     EXPECT_THAT(HeightsOf(trace), ElementsAre(0, DoubleNear(-(1 - std::sqrt(0.5)), 1e-15), 0));
 }
 
+TEST(ZukenPCBParser_LinesTest, CenterCountsTheRadiusInTheUnitOfTheFile) {
+    // The half circle from (0, 0) to (0, 4) about (0, 2), clockwise, with 2^30 and 2^30 / 100000 for the radius.
+    const auto heightIn = [](const std::string& unit, const std::string& arc) {
+        const auto parser = MakeParser();
+        parser->ReadUnits(ListOf("(header (unit " + unit + "))"));
+        parser->ReadLine(ListOf("(line (vertex " + arc + "))"), parser->GetNet("A"), "L1");
+        return parser->GetNet("A")->traces.at(0)->vertices.at(0).height;
+    };
+    EXPECT_EQ(200000 * 1e-5,
+        heightIn("DBUNIT", "(arc CW (r 200000) (begin (pt 0 0)) (center 0 1073741824) (end (pt 0 400000)))"));
+    EXPECT_EQ(2.0, heightIn("MM", "(arc CW (r 2) (begin (pt 0 0)) (center 0 10737.41824) (end (pt 0 4)))"));
+}
+
+TEST(ZukenPCBParser_LinesTest, FirstOfTwoWidthsAndOfTwoRoundingsCounts) {
+    const Line line("(pt 0 0 (width 1) (width 7)) (pt 10 0 (tarc (r 2)) (tarc (r 3))) (pt 10 10)");
+    EXPECT_THAT(PlacesOf(line.Only()),
+        ElementsAre(geom::Point(0, 0), geom::Point(8, 0), geom::Point(10, 2), geom::Point(10, 10)));
+    EXPECT_THAT(WidthsOf(line.Only()), ElementsAre(1, 1, 1, 1));
+}
+
 TEST(ZukenPCBParser_LinesTest, HeightOfAnArcStandsAtItsBegin) {
     // The half circle about (12, 0), clockwise over (12, 2).
     const Line line("(pt 0 0 (width 1)) (arc CW (r 2) (begin (pt 10 0 (width 1))) (center 1 0)"
