@@ -37,6 +37,28 @@ class ExamplesTest(ProgramCase):
         ids = [int(number) for number in re.findall(r"\b(?:Via|Path|Circle|Polygon)\((\d+),", text)]
         self.assertEqual(list(range(1, len(ids) + 1)), ids)
 
+    def run_example(self, name):
+        """The result of an example whose files are copied into the folder, and its neutral file."""
+        for extension in (".pcf", ".ftf"):
+            with open(os.path.join(PROJECT, "examples", name + extension), "rb") as file:
+                self.put(name + extension, file.read())
+        result = self.run_program(name + ".pcf")
+        with open(self.path(name + ".qrl"), encoding="utf-8") as file:
+            return result, file.read()
+
+    def test_a_missing_parenthesis_at_the_end_is_no_fault(self):
+        result, text = self.run_example("layers")
+        self.assertEqual(b"TXT file layers.txt does not exist\n", result.stdout)
+        self.assertIn('\tDefaultUnits = "mm"\n', text)
+        self.assertEqual(2, text.count('StackupLayer("Conductive_2", "MetalizedSignal", "Neither", 0.2, "Copper")'))
+
+    def test_what_was_complete_before_a_fault_is_translated(self):
+        result, text = self.run_example("broken")
+        self.assertEqual(
+            b"TXT file broken.txt does not exist\nParsing failed at line: 5 near (unit MM)))\n", result.stdout)
+        self.assertIn('\tDefaultUnits = "mil"\n', text)
+        self.assertEqual(2, text.count('StackupLayer("Conductive_1", "Signal", "Top", 0.2, "Copper")'))
+
 
 if __name__ == "__main__":
     unittest.main()
