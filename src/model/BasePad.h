@@ -8,8 +8,8 @@
 
 /// One named copper figure: what a padstack puts on a layer.
 ///
-/// Which figure it is tell the kind tests and a checked downcast; `kind` is a number of the source that nothing
-/// branches on. Lengths are in the unit of the model. The offsets place the figure's centre relative to the pad's
+/// Which figure it is tell the kind tests and a checked downcast; `kind` numbers the figures, and nothing
+/// branches on it. Lengths are in the unit of the model. The offsets place the figure's centre relative to the pad's
 /// origin; only a rectangle of the source has some.
 class BasePad {
 public:

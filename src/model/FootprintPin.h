@@ -26,7 +26,8 @@ public:
     double angle;             ///< degrees, as read
     geom::Point displacement; ///< read by nothing
     Padstack* padstack;       ///< null for a pin without copper, which keeps its place among the pins all the same
-    std::vector<FootprintPin*> siblingPins; ///< made from the same source pin; only the first of the group has them
+    std::vector<FootprintPin*>
+        siblingPins; ///< made from source pins of the same name; only the first of the group has them
 };
 
 #endif

@@ -102,7 +102,7 @@ public:
 
     /// Reads `fpData`. Always true.
     bool ParseFootprintFile();
-    /// Numbers the conductive layers of the footprint file from 1. False when there are none to number.
+    /// Numbers the conductive layers of the footprint file from 1. False without a list of layers.
     bool ReadTechnology(const io::CBlock_func& technologyContainer);
     void ReadFootprintContainer(const io::CBlock_func& footprintContainer);
 
@@ -132,8 +132,9 @@ public:
     void ReadFootprints(const io::CBlock_func& footprintsFunc);
     /// Appends one footprint, or none when it has neither a name nor a pin.
     void ReadFootprint(io::CBlock_func& footprint);
-    /// The name, or one made from it that `used` doesn't hold, which is added to `used`: what stands ahead of the first
-    /// "_", and a number that counts on from what stands behind it. A name of nothing but "_" that is taken comes back.
+    /// The name, or one made from it that `used` doesn't hold, which is added to `used`: the first of its pieces
+    /// between "_", and a number that counts on from the second. Empty pieces don't count, further ones are dropped; a
+    /// taken name without any piece comes back.
     static AString MakeUniqueName(UsedNames& used, const AString& name);
     /// The padstack that puts one pad on one footprint layer, which is made on first demand. Null for an unknown layer.
     Padstack* GetGeneratedPadstack(const AString& padName, const AString& layerName);

@@ -29,8 +29,7 @@ void ZukenPCBParser::FootprintPinReader::ReadPin(io::CBlock_func& pin) {
         ReadItem(item);
 }
 
-/// `fpadstack` is the one keyword whose case matters: in capitals it is a mark that stands ahead of the padstack, and
-/// says nothing.
+/// `fpadstack` is the one keyword whose case matters: the format's established behaviour; kept as it is.
 void ZukenPCBParser::FootprintPinReader::ReadItem(io::CBlock_func& item) {
     if (item.Name().Compare("fpadstack") == 0)
         ReadPadstackItem(item);

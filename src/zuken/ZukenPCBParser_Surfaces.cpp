@@ -89,10 +89,11 @@ bool ZukenPCBParser::ReadSurface(
         if (item.NameIs("vertex")) {
             ReadLoop(item, polygon);
             current = surfaces.Make(net, layerName, polygon.GetTransformed(placement));
-        } else if (item.NameIs("openShape") && current != nullptr) {
+        } else if (item.NameIs("openShape")) {
             ReadLoop(GetChild_G(item, "vertex"), polygon);
             const double width = GetRealOf_G(item, "outlineWidth") * coordScale;
-            current->AddVoid(polygon.GetTransformed(placement), width * 0.5);
+            if (current != nullptr)
+                current->AddVoid(polygon.GetTransformed(placement), width * 0.5);
         }
     }
     return true;

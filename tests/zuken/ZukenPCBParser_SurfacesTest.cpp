@@ -85,6 +85,13 @@ TEST(ZukenPCBParser_SurfacesTest, OpenShapeAheadOfTheFirstVertexIsDropped) {
     EXPECT_THAT(shapes.Only().voids, IsEmpty());
 }
 
+TEST(ZukenPCBParser_SurfacesTest, OpenShapeThatIsDroppedIsReadAndReportedAllTheSame) {
+    const AssertionRecorder recorder;
+    const Shapes shapes("(openShape (vertex (arc CCW (r -1) (begin (pt 0 0)) (center 0 0) (end (pt 0 0)))))");
+    EXPECT_THAT(AssertionRecorder::Take(), testing::Contains("m_Radius >= k_Unit_0, Circle.h"));
+    EXPECT_THAT(shapes.Surfaces(), IsEmpty());
+}
+
 TEST(ZukenPCBParser_SurfacesTest, OpenShapeIsAVoidOfTheVertexAheadOfIt) {
     const Shapes shapes(std::string(k_Triangle) + k_Triangle + "(openShape " + k_Triangle + ")");
     ASSERT_THAT(shapes.Surfaces(), SizeIs(2));
