@@ -24,7 +24,7 @@ public:
     RefCounter_T(const RefCounter_T& other);
     RefCounter_T(RefCounter_T&& other) noexcept;
     /// Both assignments do nothing when the two handles share their object already.
-    RefCounter_T& operator=(const RefCounter_T& other);
+    RefCounter_T& operator=(const RefCounter_T& other); // NOLINT(bugprone-unhandled-self-assignment)
     RefCounter_T& operator=(RefCounter_T&& other) noexcept;
     ~RefCounter_T();
 
@@ -65,7 +65,7 @@ RefCounter_T<T>::RefCounter_T(RefCounter_T&& other) noexcept
     : m_DataPtr(std::exchange(other.m_DataPtr, nullptr)), m_CounterPtr(std::exchange(other.m_CounterPtr, nullptr)) {}
 
 template <class T>
-RefCounter_T<T>& RefCounter_T<T>::operator=(const RefCounter_T& other) { // NOLINT(bugprone-unhandled-self-assignment)
+RefCounter_T<T>& RefCounter_T<T>::operator=(const RefCounter_T& other) {
     // Covers self-assignment.
     if (m_DataPtr == other.m_DataPtr)
         return *this;
