@@ -155,7 +155,6 @@ void BM_WholeRun(benchmark::State& state) {
         run();
     state.counters["MB/s"] =
         benchmark::Counter(files.GetSize() / k_Megabyte, benchmark::Counter::kIsIterationInvariantRate);
-    state.counters["peak_x"] = MeasurePeakMemory(run) / files.GetSize();
 }
 BENCHMARK(BM_WholeRun)->Arg(10)->Arg(100)->Unit(benchmark::kMillisecond);
 
