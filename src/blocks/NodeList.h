@@ -87,6 +87,8 @@ public:
     void ExpectText(size_t size);
     /// Gives back the memory that was set aside for growth.
     void ShrinkToFit();
+    /// Drops all but the root, and keeps the memory. False, with nothing done, where others share the tree.
+    bool TryClear();
 
 private:
     /// The nodes and their administration in one piece of memory.

@@ -24,7 +24,8 @@ public:
     int GetCount() const;
 
     void SetName(std::string_view name);
-    void Clear() { *this = TreeView(GetRoot()->GetKind(), GetName()); }
+    /// Drops all but the name. A tree that nobody shares keeps its memory for what comes next.
+    void Clear();
     /// The nodes for a change: a tree of its own, of which this is the root.
     NodeList& Own();
     size_t GetMemory() const { return m_Nodes.GetMemory(); }

@@ -2,7 +2,7 @@
 #include "neutral/Keywords.h"
 #include "neutral/ZukenConverter.h"
 
-/// The whole tree is built before anything of it is written.
+/// The items of the large sections are made while they are written, in the order of the file.
 bool ZukenConverter::Write(ZukenPCBParser& parser) {
     io::CToken_ostream stream(outName, io::CToken_ostream::k_Text);
     io::CBlock root(keyword::k_QuorelNeutralFile);
@@ -50,7 +50,6 @@ void ZukenConverter::NameNamelessNets(const Nets& nets) {
             net->name = Net::k_NoNet;
 }
 
-/// Large blocks go into their parents by reference: a copy would cost the memory of the whole layout once more.
 void ZukenConverter::WriteLayoutData(
     const Components& components, const Nets& nets, const Layers& layers, io::CBlock& root) {
     io::CBlockPtr layoutData(keyword::k_LayoutData);
