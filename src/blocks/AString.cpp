@@ -231,7 +231,6 @@ void AString::FormatPieces(const AString& format, const std::vector<std::u16stri
     m_Units = std::move(text);
 }
 
-bool io::EqualsNoCase_G(std::string_view a, std::string_view b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return FoldNarrow(x) == FoldNarrow(y); });
+bool io::HasEqualLettersNoCase_G(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return FoldNarrow(x) == FoldNarrow(y); });
 }

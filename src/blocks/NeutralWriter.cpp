@@ -36,6 +36,14 @@ constexpr auto k_NeedsEscape = [] {
     return table;
 }();
 
+/// Looks at all of the text, as most of them have none: that is quicker than to stop at the first.
+bool HasSpecial(std::string_view text) {
+    bool isSpecial = false;
+    for (const char c : text)
+        isSpecial |= k_NeedsEscape[static_cast<unsigned char>(c)];
+    return isSpecial;
+}
+
 } // namespace
 
 NeutralWriter::NeutralWriter(CAbstract_ostream& stream)
@@ -225,7 +233,7 @@ void NeutralWriter::PutWhole(int value) {
 
 void NeutralWriter::PutNumber(double value) {
     char* at = MakeRoom(k_NumberRoom);
-    m_At = PutDouble(at, value);
+    m_At = m_Numbers.Put(at, value);
 }
 
 void NeutralWriter::PutLineStart(size_t depth) {
@@ -247,6 +255,10 @@ void NeutralWriter::PutName(std::string_view name) {
 void NeutralWriter::PutString(std::string_view text) {
     const auto needsEscape = [](char c) { return k_NeedsEscape[static_cast<unsigned char>(c)]; };
     Put('"');
+    if (!HasSpecial(text)) {
+        Put(text);
+        text = {};
+    }
     while (!text.empty()) {
         const auto special = std::find_if(text.begin(), text.end(), needsEscape);
         Put({text.begin(), special});

@@ -3,6 +3,7 @@
 
 #include "blocks/CAbstract_ostream.h"
 #include "blocks/CBlock.h"
+#include "blocks/NumberMemo.h"
 
 #include <deque>
 #include <memory>
@@ -86,6 +87,7 @@ private:
     CAbstract_ostream& m_Stream;
     std::vector<Frame> m_Frames;
     std::deque<Deferred> m_Deferred;
+    NumberMemo m_Numbers;
     std::unique_ptr<char[]> m_Buffer;
     char* m_At;
     const char* m_End;

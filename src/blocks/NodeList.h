@@ -35,6 +35,8 @@ public:
     /// The tree from `root` down, as a tree of its own. `end` is the node behind it.
     static NodeList CopyOf(const Node* root, const Node* end);
 
+    bool SharesWith(const NodeList& other) const { return m_Storage == other.m_Storage; }
+
     const Node* GetRoot() const { return m_Storage->GetNodes(); }
     const Node* GetEnd() const { return GetRoot() + m_Storage->m_Size; }
     /// Bytes of memory that the tree takes, without what stands in it by reference.

@@ -70,9 +70,10 @@ Decimal FindFiveDecimals(double value) {
 /// How many digits stand ahead of the point; for what begins with 0.0, one less than none.
 int CountWholeDigits(double value) {
     constexpr std::array<double, 7> k_Limits = {0.1, 1.0, 1e1, 1e2, 1e3, 1e4, 1e5};
-    return static_cast<int>(std::find_if(k_Limits.begin(), k_Limits.end(), [=](double limit) { return value < limit; }) -
-                            k_Limits.begin()) -
-           1;
+    int digits = -1;
+    for (const double limit : k_Limits)
+        digits += value >= limit ? 1 : 0;
+    return digits;
 }
 
 /// The decimal of 15, else 16, else 17 digits that is next to `value` and reads back to it.

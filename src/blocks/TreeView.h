@@ -17,6 +17,13 @@ public:
     TreeView(const TreeView& within, const Node* place)
         : m_Nodes(within.m_Nodes), m_Root(static_cast<size_t>(place - m_Nodes.GetRoot())) {}
 
+    /// Becomes the view of `place` in the tree of `within`.
+    void MoveTo(const TreeView& within, const Node* place) {
+        if (!m_Nodes.SharesWith(within.m_Nodes))
+            m_Nodes = within.m_Nodes;
+        m_Root = static_cast<size_t>(place - m_Nodes.GetRoot());
+    }
+
     const Node* GetRoot() const { return m_Nodes.GetRoot() + m_Root; }
     const Node* GetBegin() const { return GetRoot()->GetFirstChild(); }
     const Node* GetEnd() const { return m_Root == 0 ? m_Nodes.GetEnd() : GetRoot()->GetNext(); }
