@@ -104,7 +104,7 @@ CBlock_func& CBlock_func::operator<<(double value) {
     return *this;
 }
 
-CBlock_func& CBlock_func::operator<<(const AString& text) { return *this << std::string_view(text.QRL_ANSI()); }
+CBlock_func& CBlock_func::operator<<(const AString& text) { return *this << text.GetNarrow(); }
 
 CBlock_func& CBlock_func::operator<<(std::string_view text) {
     Change().AppendText(NodeKind::k_Text, text);

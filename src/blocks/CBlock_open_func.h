@@ -31,7 +31,7 @@ public:
         return *this;
     }
     CBlock_open_func& operator<<(const char* text) { return *this << std::string_view(text); }
-    CBlock_open_func& operator<<(const AString& text) { return *this << std::string_view(text.QRL_ANSI()); }
+    CBlock_open_func& operator<<(const AString& text) { return *this << text.GetNarrow(); }
 
 private:
     CBlock_open_func(NodeList& nodes, std::string_view name) : m_Nodes(nodes) { m_Nodes.Open(NodeKind::k_Func, name); }

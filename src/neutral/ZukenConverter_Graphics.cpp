@@ -3,6 +3,7 @@
 #include "neutral/ZukenConverter.h"
 
 #include <cmath>
+#include <span>
 
 namespace {
 
@@ -64,7 +65,7 @@ void AppendPathVertex(const PathVertex& vertex, io::CBlock_open_func& path) {
 }
 
 /// A height stands behind the vertex at which its arc begins; at the last one none does.
-void AppendPath(int32_t id, const std::vector<PathVertex>& vertices, io::CBlock_open_func& graphics) {
+void AppendPath(int32_t id, std::span<const PathVertex> vertices, io::CBlock_open_func& graphics) {
     io::CBlock_open_func path(graphics, keyword::k_Path);
     path << id;
     for (const PathVertex& vertex : vertices) {
