@@ -50,8 +50,8 @@ void ZukenPCBParser::ReadConductiveItem(
     if (item.NameIs("line")) {
         const AString netName = GetTextOf_G(item, "net");
         // Left over from the search for a fault of one board; it reports that net and changes nothing.
-        QRL_ASSERT(
-            "ZukenPCBParser", "netName.CompareNoCase ( \"SATA1_TX_DN\" )", netName.CompareNoCase("SATA1_TX_DN") != 0);
+        const bool isWatched = netName.CompareNoCase("SATA1_TX_DN") == 0;
+        QRL_ASSERT("ZukenPCBParser", "netName.CompareNoCase ( \"SATA1_TX_DN\" )", !isWatched);
         ReadLine(GetShape(item, "line"), GetNet(netName), layerName);
     } else if (item.NameIs("surface")) {
         Net* net = GetNet(GetTextOf_G(item, "net"));

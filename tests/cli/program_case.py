@@ -124,8 +124,9 @@ class ProgramCase(unittest.TestCase):
         if key not in self.outputs:
             with tempfile.TemporaryDirectory(dir=self.place) as folder:
                 for extension, content in (("pcf", pcf), ("ftf", ftf), ("txt", txt)):
-                    with open(os.path.join(folder, "b." + extension), "wb") as file:
-                        file.write(content)
+                    if content is not None:
+                        with open(os.path.join(folder, "b." + extension), "wb") as file:
+                            file.write(content)
                 self.run_program("b.pcf", cwd=folder)
                 self.outputs[key] = describe(os.path.join(folder, "b.qrl"))
         return self.outputs[key]
