@@ -217,7 +217,7 @@ double ListMutator::MoveALittle(double value) {
     }
 }
 
-/// Puts the board into `data` unless it is too long for it.
+/// Puts the board into `data`, and gives its size. Gives 0 for one that is too long for it.
 size_t CopyOut(const ListMutator& board, uint8_t* data, size_t maxSize) {
     const std::string& text = board.GetText();
     if (text.size() > maxSize)
@@ -230,10 +230,12 @@ size_t CopyOut(const ListMutator& board, uint8_t* data, size_t maxSize) {
 
 /// Called by the fuzzer in place of its own changes, which still make a quarter of all.
 extern "C" size_t LLVMFuzzerCustomMutator(uint8_t* data, size_t size, size_t maxSize, unsigned seed) {
+    constexpr unsigned k_Kinds = 4; ///< none, so that it is the fuzzer's turn, or one to three changes
     ListMutator board(TextOfInput(data, size), seed);
-    for (unsigned count = seed % 4; count != 0 && board.HasLists(); --count)
+    const unsigned changes = seed % k_Kinds;
+    for (unsigned i = 0; i != changes && board.HasLists(); ++i)
         board.Mutate();
-    const size_t newSize = seed % 4 == 0 ? 0 : CopyOut(board, data, maxSize);
+    const size_t newSize = changes == 0 ? 0 : CopyOut(board, data, maxSize);
     return newSize != 0 ? newSize : LLVMFuzzerMutate(data, size, maxSize);
 }
 

@@ -1,11 +1,9 @@
 #include "fuzz/ShapeChecks.h"
 
 #include "fuzz/FuzzTarget.h"
-#include "lib/math/geometry/ArcSequence.h"
 #include "lib/math/geometry/CircleSlice.h"
 #include "lib/math/geometry/Transformation.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -49,11 +47,6 @@ void CheckArc(const geom::Arc& arc, geom::Point point, geom::Unit length) {
     (void)arc.GetTransformed(geom::Transformation(geom::Angle(geom::k_Degrees, fraction), point));
     if (IsFinite(arc) && !arc.IsCircle())
         Require(arc.GetReversed().GetReversed() == arc, "the reverse of the reverse is the arc");
-}
-
-void CheckRounded(const std::vector<geom::Arc>& arcs) {
-    if (std::all_of(arcs.begin(), arcs.end(), [](const geom::Arc& arc) { return IsFinite(arc); }))
-        Require(geom::IsPolyArcSequence_G(arcs, geom::k_Open), "rounded arcs are a sequence");
 }
 
 void CheckOutline(const geom::Polygon& polygon, const geom::Box& filter) {

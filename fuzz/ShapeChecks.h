@@ -3,14 +3,9 @@
 
 #include "lib/math/geometry/Polygon.h"
 
-#include <vector>
-
 /// Asks all that there is to ask of an arc, together with some point and length. Arcs of finite numbers are the reverse
 /// of their reverse.
 void CheckArc(const geom::Arc& arc, geom::Point point, geom::Unit length);
-
-/// A chain of rounded arcs of finite numbers is a sequence.
-void CheckRounded(const std::vector<geom::Arc>& arcs);
 
 /// Walks and measures an outline. What a walk with a filter meets is a part of what one without it meets.
 void CheckOutline(const geom::Polygon& polygon, const geom::Box& filter);

@@ -18,7 +18,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         const auto mode = arcs.size() % 2 == 0 ? geom::k_ShortWay : geom::k_LongWay;
         (void)geom::GetRoundCorner(arcs[arcs.size() / 2], arcs.back(), radius, mode, true);
     }
-    CheckRounded(geom::GetRoundedArcs(arcs, radius, radius / 8, geom::k_Open));
+    for (const geom::Arc& arc : geom::GetRoundedArcs(arcs, radius, radius / 8, geom::k_Open))
+        CheckArc(arc, first, radius);
     if (!arcs.empty())
         arcs.emplace_back(arcs.back().GetEnd(), first, bits.Take<double>());
     const geom::Box filter(first, radius);
