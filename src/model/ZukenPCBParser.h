@@ -31,6 +31,10 @@
 #include <memory>
 #include <vector>
 
+namespace io {
+class CToken_istream;
+}
+
 class ArcRing;
 struct ComponentDraft;
 struct PinDraft;
@@ -224,6 +228,8 @@ public:
 
     /// Amends components by the lines of the side file. Always false.
     bool ParseTextFile(const LongFileName& fileName);
+    /// The same for a side file that is open already.
+    void ReadTextLines(io::CToken_istream& stream);
     /// Appends the fields of a line and returns their number.
     static int SplitTextLine(const AString& line, std::vector<AString>& fields);
 

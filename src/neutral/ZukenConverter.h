@@ -28,6 +28,8 @@ public:
 
     /// Writes the neutral file of the board. Always false.
     bool Write(ZukenPCBParser& parser);
+    /// Puts the text of that file on a stream.
+    void WriteText(ZukenPCBParser& parser, io::CAbstract_ostream& stream);
 
     using Pads = std::vector<BasePad*>;
     using Padstacks = std::vector<Padstack*>;

@@ -2,9 +2,15 @@
 #include "neutral/Keywords.h"
 #include "neutral/ZukenConverter.h"
 
-/// The items of the large sections are made while they are written, in the order of the file.
 bool ZukenConverter::Write(ZukenPCBParser& parser) {
     io::CToken_ostream stream(outName, io::CToken_ostream::k_Text);
+    WriteText(parser, stream);
+    stream.Close();
+    return false;
+}
+
+/// The items of the large sections are made while they are written, in the order of the file.
+void ZukenConverter::WriteText(ZukenPCBParser& parser, io::CAbstract_ostream& stream) {
     io::CBlock root(keyword::k_QuorelNeutralFile);
     WriteHeader(parser, root);
     Pads pads;
@@ -25,9 +31,7 @@ bool ZukenConverter::Write(ZukenPCBParser& parser) {
     WriteComponents(components, root);
     NameNamelessNets(nets);
     WriteLayoutData(components, nets, layers, root);
-    stream << root;
-    stream.Close();
-    return false;
+    root.write(stream);
 }
 
 void ZukenConverter::WriteHeader(const ZukenPCBParser& parser, io::CBlock& root) {

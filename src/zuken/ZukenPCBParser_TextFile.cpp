@@ -17,19 +17,23 @@ void ReportUnknownReference(const AString& reference) {
 
 } // namespace
 
-/// The first line with enough columns is the title:
-///
-///     Reference PartNumber Value DNP
-///     R10 R0805-189 1k YES
-///     "U2" "QFP48-035" "IC100"
 bool ZukenPCBParser::ParseTextFile(const LongFileName& fileName) {
     if (!fileName.Exists())
         return false;
     io::CToken_grammar grammar;
     grammar.CommentCharSet("#");
     io::CToken_istream stream(fileName, grammar, io::CToken_istream::k_SideText);
-    if (stream.fail())
-        return false;
+    if (!stream.fail())
+        ReadTextLines(stream);
+    return false;
+}
+
+/// The first line with enough columns is the title:
+///
+///     Reference PartNumber Value DNP
+///     R10 R0805-189 1k YES
+///     "U2" "QFP48-035" "IC100"
+void ZukenPCBParser::ReadTextLines(io::CToken_istream& stream) {
     bool isTitleRead = false;
     while (!stream.eof()) {
         AString line;
@@ -42,7 +46,6 @@ bool ZukenPCBParser::ParseTextFile(const LongFileName& fileName) {
             AmendComponent(fields);
         isTitleRead = true;
     }
-    return false;
 }
 
 int ZukenPCBParser::SplitTextLine(const AString& line, std::vector<AString>& fields) {
