@@ -232,7 +232,7 @@ bool AString::IsNumber(int& value, int base) const {
 
 std::string_view AString::GetNarrow() const {
     if (m_Text == nullptr)
-        return {};
+        return "";
     if (m_Text->m_Narrow.empty() || m_Text->m_IsOpen)
         m_Text->m_Narrow = Narrow(m_Text->m_Units);
     return m_Text->m_Narrow;

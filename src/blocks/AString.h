@@ -14,8 +14,8 @@
 /// is held as the lone unit 0xDC00 + byte, and goes back out as that byte. Positions and sizes count units, so that a
 /// character outside the basic plane counts twice.
 ///
-/// A handle: copies share the text until one of them changes, and cost one increment. So all that lies on a layer shares
-/// the layer's name. For one thread at a time.
+/// A handle: copies share the text until one of them changes, and cost one increment. So all that lies on a layer
+/// shares the layer's name. For one thread at a time.
 class AString {
 public:
     static constexpr size_t npos = std::u16string::npos;
@@ -92,7 +92,7 @@ public:
 
     /// The narrow form, the only way to narrow output. It is made once for all copies.
     std::string QRL_ANSI() const { return std::string(GetNarrow()); }
-    /// The same in the memory of the text, which lives as long as one of its handles.
+    /// The same in the memory of the text, which lives as long as one of its handles. Never a null pointer.
     std::string_view GetNarrow() const;
 
 private:

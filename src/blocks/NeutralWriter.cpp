@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <utility>
 
 namespace io {
 
@@ -12,9 +13,7 @@ namespace {
 
 constexpr size_t k_BufferSize = size_t{256} * 1024;
 
-bool IsNothing(const Node& node) {
-    return node.GetKind() == NodeKind::k_Reference && node.GetReference() == nullptr;
-}
+bool IsNothing(const Node& node) { return node.GetKind() == NodeKind::k_Reference && node.GetReference() == nullptr; }
 
 bool IsValue(const Node& node) { return !node.HasChildren() && node.GetKind() != NodeKind::k_Reference; }
 
@@ -87,13 +86,16 @@ void NeutralWriter::WriteFrames() {
 void NeutralWriter::Enter(const Node* node, const Node* end, size_t depth) {
     const bool isBlock = node->GetKind() == NodeKind::k_Block;
     PutName(node->GetText());
-    Put(isBlock ? " {\n" : "(");
+    if (isBlock)
+        PutMark(" {\n");
+    else
+        Put('(');
     m_Frames.push_back({.m_Next = node->GetFirstChild(), .m_End = end, .m_Depth = depth, .m_IsBlock = isBlock});
 }
 
 void NeutralWriter::Enter(const CBlock_deferred& block, size_t depth) {
     PutName(block.NameToken().GetText());
-    Put(" {\n");
+    PutMark(" {\n");
     m_Deferred.push_back({.m_Block = block});
     m_Frames.push_back({.m_Depth = depth, .m_IsBlock = true, .m_IsDeferred = true});
 }
@@ -178,11 +180,14 @@ void NeutralWriter::WriteFuncArgument(Frame& func) {
 
 /// Puts what stands ahead of an argument. Returns the depth of its line.
 size_t NeutralWriter::StartArgument(Frame& func) {
-    if (!func.m_IsFirst)
-        Put(func.m_IsBroken ? "," : ", ");
-    func.m_IsFirst = false;
-    if (!func.m_IsBroken)
+    const bool isFirst = std::exchange(func.m_IsFirst, false);
+    if (!func.m_IsBroken) {
+        if (!isFirst)
+            PutMark(", ");
         return func.m_Depth;
+    }
+    if (!isFirst)
+        Put(',');
     Put('\n');
     PutLineStart(func.m_Depth + 1);
     return func.m_Depth + 1;
@@ -190,7 +195,7 @@ size_t NeutralWriter::StartArgument(Frame& func) {
 
 void NeutralWriter::PutNamedValue(std::string_view name, const Node& value, std::string_view text) {
     PutName(name);
-    Put(" = ");
+    PutMark(" = ");
     PutValue(value, text);
     Put('\n');
 }
@@ -198,7 +203,7 @@ void NeutralWriter::PutNamedValue(std::string_view name, const Node& value, std:
 void NeutralWriter::PutValue(const Node& value, std::string_view text) {
     switch (value.GetKind()) {
     case NodeKind::k_Bool:
-        Put(value.GetBool() ? "true" : "false");
+        Put(std::string_view(value.GetBool() ? "true" : "false"));
         return;
     case NodeKind::k_Int:
         PutWhole(value.GetInt());
@@ -254,11 +259,14 @@ void NeutralWriter::PutName(std::string_view name) {
 
 void NeutralWriter::PutString(std::string_view text) {
     const auto needsEscape = [](char c) { return k_NeedsEscape[static_cast<unsigned char>(c)]; };
-    Put('"');
-    if (!HasSpecial(text)) {
-        Put(text);
-        text = {};
+    constexpr size_t k_Short = 64;
+    if (text.size() <= k_Short && !HasSpecial(text)) {
+        char* at = MakeRoom(text.size() + 2);
+        *at = '"';
+        *std::copy(text.begin(), text.end(), at + 1) = '"';
+        return;
     }
+    Put('"');
     while (!text.empty()) {
         const auto special = std::find_if(text.begin(), text.end(), needsEscape);
         Put({text.begin(), special});

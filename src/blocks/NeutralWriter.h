@@ -5,6 +5,7 @@
 #include "blocks/CBlock.h"
 #include "blocks/NumberMemo.h"
 
+#include <cstring>
 #include <deque>
 #include <memory>
 #include <string_view>
@@ -75,6 +76,11 @@ private:
     void PutEscaped(char c);
     void Put(std::string_view text);
     void Put(char c) { *MakeRoom(1) = c; }
+    /// What is known when this is compiled needs no call to be copied.
+    template <size_t size>
+    void PutMark(const char (&mark)[size]) {
+        std::memcpy(MakeRoom(size - 1), mark, size - 1);
+    }
     /// Room for `size` bytes, which count as written. `size` is far below that of the buffer.
     char* MakeRoom(size_t size) {
         if (size > static_cast<size_t>(m_End - m_At)) [[unlikely]]

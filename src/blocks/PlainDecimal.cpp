@@ -57,8 +57,8 @@ char* PutDecimal(char* to, Decimal decimal) {
     return std::copy(begin, end, to);
 }
 
-/// `value` as a number of hundred thousandths, when it is the double next to one: no other text of up to 15 digits reads
-/// as that double. Half of all coordinates are, since the design system counts in such units.
+/// `value` as a number of hundred thousandths, when it is the double next to one: no other text of up to 15 digits
+/// reads as that double. Half of all coordinates are, since the design system counts in such units.
 Decimal FindFiveDecimals(double value) {
     constexpr double k_Scale = 1e5;
     const auto digits = static_cast<int64_t>(value * k_Scale + 0.5);

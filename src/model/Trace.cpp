@@ -4,8 +4,7 @@
 
 #include <utility>
 
-Trace::Trace(
-    const std::vector<PathVertex>& traceVertices, AString layerName, Net* traceNet, allocator_type memory)
+Trace::Trace(const std::vector<PathVertex>& traceVertices, AString layerName, Net* traceNet, allocator_type memory)
     : vertices(traceVertices.begin(), traceVertices.end(), memory), layer(std::move(layerName)) {
     SetNet(traceNet);
 }

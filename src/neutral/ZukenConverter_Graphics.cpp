@@ -104,9 +104,8 @@ void ZukenConverter::WriteSurfaceWithVoids(const Surface& surface, io::CBlock& b
     io::CBlock surfaceBlock(keyword::k_PolygonWithVoids);
     surfaceBlock << io::CBlock_named_value(keyword::k_Layer, surface.layer);
     AppendPolygon(TakeId(), surface.outline.halfWidth, polygon.GetArcs(), surfaceBlock);
-    const auto write = [this, &surface](size_t index, io::CBlock& items) {
-        AppendVoid(TakeId(), surface.voids[index], items);
-    };
+    const auto write = [this, &surface](
+                           size_t index, io::CBlock& items) { AppendVoid(TakeId(), surface.voids[index], items); };
     surfaceBlock << io::CBlockDeferredPtr(new io::CBlock_deferred(keyword::k_Voids, surface.voids.size(), write));
     block << surfaceBlock;
 }

@@ -6,9 +6,9 @@
 
 namespace base {
 
-/// Memory for what is made piece by piece and goes all at once. A piece costs a few instructions and lies behind the one
-/// before it; giving a single piece back does nothing. The blocks that pieces are cut from grow to that of large memory
-/// and no further, so that little is left over in the last one.
+/// Memory for what is made piece by piece and goes all at once. A piece costs a few instructions and lies behind the
+/// one before it; giving a single piece back does nothing. The blocks that pieces are cut from grow to that of large
+/// memory and no further, so that little is left over in the last one.
 class Arena : public std::pmr::memory_resource {
 public:
     Arena() = default;
