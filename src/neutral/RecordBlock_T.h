@@ -10,7 +10,7 @@
 template <class Record, class WriteRecord>
 io::CBlockDeferredPtr MakeRecordBlock_T(
     const char* name, const std::vector<Record*>& records, const WriteRecord& writeRecord) {
-    const auto make = [&records, writeRecord](size_t index, io::CBlock& items) { writeRecord(*records[index], items); };
+    const auto make = [records, writeRecord](size_t index, io::CBlock& items) { writeRecord(*records[index], items); };
     return io::CBlockDeferredPtr(new io::CBlock_deferred(name, records.size(), make));
 }
 

@@ -83,7 +83,7 @@ bool ZukenConverter::WriteLayoutCell(
 }
 
 void ZukenConverter::WriteNetlist(const Components& components, const Nets& nets, io::CBlock& layoutCell) {
-    const auto write = [&components, &nets](size_t index, io::CBlock& items) {
+    const auto write = [components, nets](size_t index, io::CBlock& items) {
         if (index < components.size())
             items << MakeCompInst(*components[index]);
         else

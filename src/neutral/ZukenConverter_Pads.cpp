@@ -62,7 +62,7 @@ void WritePad(const BasePad& pad, io::CBlock& block) {
 } // namespace
 
 bool ZukenConverter::WritePadShapes(const Pads& pads, io::CBlock& root) {
-    const auto write = [&pads](size_t index, io::CBlock& items) {
+    const auto write = [pads](size_t index, io::CBlock& items) {
         if (index == 0)
             WriteNullPad(items);
         else

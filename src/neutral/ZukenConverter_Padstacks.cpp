@@ -56,7 +56,7 @@ io::CBlock MakePadstack(const Padstack& padstack, const std::vector<Layer*>& lay
 } // namespace
 
 bool ZukenConverter::WritePadstacks(const Padstacks& padstacks, const Layers& layers, io::CBlock& root) {
-    const auto write = [&layers, top = FindTop(layers)](const Padstack& padstack, io::CBlock& items) {
+    const auto write = [layers, top = FindTop(layers)](const Padstack& padstack, io::CBlock& items) {
         items << MakePadstack(padstack, layers, top);
     };
     root << MakeRecordBlock_T(keyword::k_Padstacks, padstacks, write);
