@@ -125,10 +125,16 @@ AString::AString(std::string_view narrow) : AString(Widen(narrow)) {}
 AString::AString(const wchar_t* wide) : AString(Widen(wide)) {}
 
 char16_t& AString::operator[](size_t index) {
+    char16_t& unit = ChangeUnits()[index];
+    m_Text->m_IsOpen = true;
+    return unit;
+}
+
+std::u16string& AString::ChangeUnits() {
     if (m_Text->m_Users != 1)
         *this = AString(GetUnits());
-    m_Text->m_IsOpen = true;
-    return m_Text->m_Units[index];
+    m_Text->m_Narrow.clear();
+    return m_Text->m_Units;
 }
 
 AString AString::Left(ptrdiff_t n) const {
@@ -164,8 +170,17 @@ std::u16string AString::GetFolded() const {
 }
 
 void AString::replace(size_t pos, size_t count, const AString& text) {
-    if (pos <= size())
-        *this = AString(std::u16string(GetUnits()).replace(pos, count, text.GetUnits()));
+    if (pos > size())
+        return;
+    // It may be this text itself.
+    const AString inserted = text;
+    if (empty()) {
+        *this = inserted;
+        return;
+    }
+    ChangeUnits().replace(pos, count, inserted.GetUnits());
+    if (m_Text->m_Units.empty())
+        *this = AString();
 }
 
 void AString::Trim() {

@@ -117,6 +117,9 @@ private:
     static Text* Make(std::u16string units) { return units.empty() ? nullptr : new Text{std::move(units)}; }
     const std::u16string& GetUnits() const { return m_Text == nullptr ? k_NoUnits : m_Text->m_Units; }
 
+    /// The units of a text of this handle's own, which isn't empty.
+    std::u16string& ChangeUnits();
+
     static std::u16string ToText(long value);
     static std::u16string ToText(int value) { return ToText(static_cast<long>(value)); }
     static std::u16string ToText(const char16_t* text) { return text; }
