@@ -1,5 +1,5 @@
-// stages BOARD: CPU milliseconds of each stage of a translation, in a process of its own: reading both files into trees,
-// making the model, writing the text to nowhere.
+// stages BOARD: CPU milliseconds of each stage of a translation, in a process of its own: reading both files into
+// trees, making the model, writing the text to nowhere.
 
 #include "blocks/CAbstract_ostream.h"
 #include "neutral/ZukenConverter.h"
