@@ -23,9 +23,9 @@ Class ClassOf(char c) { return k_Classes[static_cast<uint8_t>(c)]; }
 
 bool IsInWord(char c) { return ClassOf(c) == k_Word || ClassOf(c) == k_Quote; }
 
-} // namespace
-
-size_t CountTokens(std::string_view text) {
+/// Calls `onWord` for every word. Returns the number of tokens.
+template <class OnWord>
+size_t WalkTokens(std::string_view text, const OnWord& onWord) {
     size_t tokens = 0;
     const char* at = text.data();
     const char* end = at + text.size();
@@ -46,14 +46,51 @@ size_t CountTokens(std::string_view text) {
             at = std::find(at + 1, end, '"');
             at += at != end ? 1 : 0;
             break;
-        case k_Word:
+        case k_Word: {
             ++tokens;
+            const char* begin = at;
             while (at != end && IsInWord(*at))
                 ++at;
+            onWord(begin, at);
             break;
+        }
         }
     }
     return tokens;
+}
+
+/// Calls `onNumber` for every word that is a whole number.
+template <class OnNumber>
+void WalkNumbers(std::string_view text, const OnNumber& onNumber) {
+    WalkTokens(text, [&onNumber](const char* begin, const char* end) {
+        int64_t number = 0;
+        const bool maybe = *begin == '-' || (*begin >= '0' && *begin <= '9');
+        if (maybe && std::from_chars(begin, end, number).ptr == end)
+            onNumber(number);
+    });
+}
+
+} // namespace
+
+size_t CountTokens(std::string_view text) {
+    return WalkTokens(text, [](const char* /*begin*/, const char* /*end*/) {});
+}
+
+size_t DecodeNumbers(std::string_view text) {
+    size_t sum = 0;
+    WalkNumbers(text, [&sum](int64_t number) { sum += static_cast<size_t>(number); });
+    return sum;
+}
+
+size_t PrintMillimetres(std::string_view text) {
+    constexpr double k_Millimetres = 1e-5;
+    char digits[32];
+    size_t size = 0;
+    WalkNumbers(text, [&](int64_t number) {
+        const double value = static_cast<double>(number) * k_Millimetres;
+        size += static_cast<size_t>(std::to_chars(digits, digits + sizeof digits, value).ptr - digits);
+    });
+    return size;
 }
 
 size_t PrintNumbers(const std::vector<double>& numbers) {

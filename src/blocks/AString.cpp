@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cstdint>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -73,46 +74,89 @@ constexpr char FoldNarrow(char c) { return c >= 'A' && c <= 'Z' ? static_cast<ch
 
 constexpr std::u16string_view k_Blanks = u" \t\r\n\v\f";
 
-} // namespace
-
-AString::AString(std::string_view narrow) {
-    m_Units.reserve(narrow.size());
+std::u16string Widen(std::string_view narrow) {
+    std::u16string units;
+    units.reserve(narrow.size());
     while (!narrow.empty()) {
         uint32_t code = 0;
         const size_t length = DecodeUtf8(narrow, code);
         if (length == 0)
-            m_Units += static_cast<char16_t>(k_LowSurrogate + static_cast<uint8_t>(narrow.front()));
+            units += static_cast<char16_t>(k_LowSurrogate + static_cast<uint8_t>(narrow.front()));
         else
-            AppendCodePoint(m_Units, code);
+            AppendCodePoint(units, code);
         narrow.remove_prefix(std::max<size_t>(length, 1));
     }
+    return units;
 }
 
-AString::AString(const wchar_t* wide) {
+std::u16string Widen(const wchar_t* wide) {
+    std::u16string units;
     for (; *wide != L'\0'; ++wide)
-        AppendCodePoint(m_Units, static_cast<uint32_t>(*wide));
+        AppendCodePoint(units, static_cast<uint32_t>(*wide));
+    return units;
+}
+
+std::string Narrow(const std::u16string& units) {
+    std::string text;
+    text.reserve(units.size());
+    for (size_t i = 0; i < units.size(); ++i) {
+        const char16_t unit = units[i];
+        if (IsHighSurrogate(unit) && i + 1 < units.size() && IsLowSurrogate(units[i + 1])) {
+            ++i;
+            const uint32_t high = static_cast<uint32_t>(unit - k_HighSurrogate) << 10;
+            AppendUtf8(text, k_FirstSupplementary + high + static_cast<uint32_t>(units[i] - k_LowSurrogate));
+        } else if (IsEscapedByte(unit)) {
+            text += static_cast<char>(static_cast<uint8_t>(unit - k_LowSurrogate));
+        } else {
+            AppendUtf8(text, unit);
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+const std::u16string AString::k_NoUnits;
+
+AString::AString(std::u16string units) : m_Text(Make(std::move(units))) {}
+
+AString::AString(std::string_view narrow) : AString(Widen(narrow)) {}
+
+AString::AString(const wchar_t* wide) : AString(Widen(wide)) {}
+
+char16_t& AString::operator[](size_t index) {
+    char16_t& unit = ChangeUnits()[index];
+    m_Text->m_IsOpen = true;
+    return unit;
+}
+
+std::u16string& AString::ChangeUnits() {
+    if (m_Text->m_Users != 1)
+        *this = AString(GetUnits());
+    m_Text->m_Narrow.clear();
+    return m_Text->m_Units;
 }
 
 AString AString::Left(ptrdiff_t n) const {
-    const auto size = static_cast<ptrdiff_t>(m_Units.size());
-    return n < 0 || n > size ? *this : AString(m_Units.substr(0, static_cast<size_t>(n)));
+    const auto size = static_cast<ptrdiff_t>(GetUnits().size());
+    return n < 0 || n > size ? *this : AString(GetUnits().substr(0, static_cast<size_t>(n)));
 }
 
 AString AString::Right(ptrdiff_t n) const {
-    const auto size = static_cast<ptrdiff_t>(m_Units.size());
-    return n < 0 || n > size ? *this : AString(m_Units.substr(static_cast<size_t>(size - n)));
+    const auto size = static_cast<ptrdiff_t>(GetUnits().size());
+    return n < 0 || n > size ? *this : AString(GetUnits().substr(static_cast<size_t>(size - n)));
 }
 
 int AString::Compare(const AString& other) const {
-    const int order = m_Units.compare(other.m_Units);
+    const int order = GetUnits().compare(other.GetUnits());
     return (order > 0) - (order < 0);
 }
 
 int AString::CompareNoCase(const AString& other) const {
     const size_t common = std::min(size(), other.size());
     for (size_t i = 0; i < common; ++i) {
-        const char16_t a = Fold(m_Units[i]);
-        const char16_t b = Fold(other.m_Units[i]);
+        const char16_t a = Fold(GetUnits()[i]);
+        const char16_t b = Fold(other.GetUnits()[i]);
         if (a != b)
             return a < b ? -1 : 1;
     }
@@ -120,30 +164,39 @@ int AString::CompareNoCase(const AString& other) const {
 }
 
 std::u16string AString::GetFolded() const {
-    std::u16string folded = m_Units;
+    std::u16string folded = GetUnits();
     std::transform(folded.begin(), folded.end(), folded.begin(), Fold);
     return folded;
 }
 
 void AString::replace(size_t pos, size_t count, const AString& text) {
-    if (pos <= size())
-        m_Units.replace(pos, count, text.m_Units);
+    if (pos > size())
+        return;
+    // It may be this text itself.
+    const AString inserted = text;
+    if (empty()) {
+        *this = inserted;
+        return;
+    }
+    ChangeUnits().replace(pos, count, inserted.GetUnits());
+    if (m_Text->m_Units.empty())
+        *this = AString();
 }
 
 void AString::Trim() {
-    const size_t first = m_Units.find_first_not_of(k_Blanks);
-    if (first == npos) {
-        m_Units.clear();
-        return;
-    }
-    m_Units = m_Units.substr(first, m_Units.find_last_not_of(k_Blanks) + 1 - first);
+    const std::u16string& units = GetUnits();
+    const size_t first = units.find_first_not_of(k_Blanks);
+    if (first == npos)
+        *this = AString();
+    else
+        *this = AString(units.substr(first, units.find_last_not_of(k_Blanks) + 1 - first));
 }
 
 /// Walks text and pattern together. On a mismatch it goes back to the last `*` and lets that take one unit more. An
 /// earlier
 /// `*` never has to be tried again, as the last one can take over whatever it would have taken.
 bool AString::Match(const AString& pattern) const {
-    const std::u16string& mask = pattern.m_Units;
+    const std::u16string& mask = pattern.GetUnits();
     size_t at = 0;
     size_t maskAt = 0;
     size_t star = npos;
@@ -152,7 +205,7 @@ bool AString::Match(const AString& pattern) const {
         if (maskAt < mask.size() && mask[maskAt] == u'*') {
             star = maskAt++;
             starEnd = at;
-        } else if (maskAt < mask.size() && (mask[maskAt] == u'?' || mask[maskAt] == m_Units[at])) {
+        } else if (maskAt < mask.size() && (mask[maskAt] == u'?' || mask[maskAt] == GetUnits()[at])) {
             ++at;
             ++maskAt;
         } else if (star != npos) {
@@ -169,16 +222,16 @@ int AString::TokenizeString(const AString& delimiters, std::vector<AString>& pie
     const size_t before = pieces.size();
     size_t start = 0;
     while (start <= size()) {
-        const size_t end = std::min(m_Units.find_first_of(delimiters.m_Units, start), size());
+        const size_t end = std::min(GetUnits().find_first_of(delimiters.GetUnits(), start), size());
         if (keepEmpty || end > start)
-            pieces.emplace_back().m_Units.assign(m_Units, start, end - start);
+            pieces.emplace_back(GetUnits().substr(start, end - start));
         start = end + 1;
     }
     return static_cast<int>(pieces.size() - before);
 }
 
 bool AString::IsNumber(int& value, int base) const {
-    const std::string text = QRL_ANSI();
+    const std::string_view text = GetNarrow();
     const bool hasPlus = !text.empty() && text.front() == '+';
     const char* first = text.data() + (hasPlus ? 1 : 0);
     const char* last = text.data() + text.size();
@@ -192,22 +245,12 @@ bool AString::IsNumber(int& value, int base) const {
     return true;
 }
 
-std::string AString::QRL_ANSI() const {
-    std::string text;
-    text.reserve(m_Units.size());
-    for (size_t i = 0; i < m_Units.size(); ++i) {
-        const char16_t unit = m_Units[i];
-        if (IsHighSurrogate(unit) && i + 1 < m_Units.size() && IsLowSurrogate(m_Units[i + 1])) {
-            ++i;
-            const uint32_t high = static_cast<uint32_t>(unit - k_HighSurrogate) << 10;
-            AppendUtf8(text, k_FirstSupplementary + high + static_cast<uint32_t>(m_Units[i] - k_LowSurrogate));
-        } else if (IsEscapedByte(unit)) {
-            text += static_cast<char>(static_cast<uint8_t>(unit - k_LowSurrogate));
-        } else {
-            AppendUtf8(text, unit);
-        }
-    }
-    return text;
+std::string_view AString::GetNarrow() const {
+    if (m_Text == nullptr)
+        return "";
+    if (m_Text->m_Narrow.empty() || m_Text->m_IsOpen)
+        m_Text->m_Narrow = Narrow(m_Text->m_Units);
+    return m_Text->m_Narrow;
 }
 
 std::u16string AString::ToText(long value) {
@@ -228,10 +271,9 @@ void AString::FormatPieces(const AString& format, const std::vector<std::u16stri
         if (takesPiece || kind == u'%')
             ++i;
     }
-    m_Units = std::move(text);
+    *this = AString(std::move(text));
 }
 
-bool io::EqualsNoCase_G(std::string_view a, std::string_view b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return FoldNarrow(x) == FoldNarrow(y); });
+bool io::HasEqualLettersNoCase_G(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return FoldNarrow(x) == FoldNarrow(y); });
 }

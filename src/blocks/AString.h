@@ -2,8 +2,10 @@
 #define QRL_BLOCKS_ASTRING_H
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 /// The wide string of the system: a sequence of 16-bit units.
@@ -11,38 +13,49 @@
 /// Narrow text is UTF-8. Any narrow text survives the way in and out unchanged: a byte that isn't part of valid UTF-8
 /// is held as the lone unit 0xDC00 + byte, and goes back out as that byte. Positions and sizes count units, so that a
 /// character outside the basic plane counts twice.
+///
+/// A handle: copies share the text until one of them changes, and cost one increment. So all that lies on a layer
+/// shares the layer's name. For one thread at a time.
 class AString {
 public:
     static constexpr size_t npos = std::u16string::npos;
 
     AString() = default;
+    AString(const AString& other) : m_Text(other.Share()) {}
+    AString(AString&& other) noexcept : m_Text(std::exchange(other.m_Text, nullptr)) {}
+    AString& operator=(AString other) noexcept {
+        std::swap(m_Text, other.m_Text);
+        return *this;
+    }
+    ~AString() { Release(m_Text); }
     AString(const char* narrow) : AString(std::string_view(narrow)) {} // NOLINT(google-explicit-constructor)
     AString(const wchar_t* wide);                                      // NOLINT(google-explicit-constructor)
     /// Widens `narrow`, which may hold any bytes, NUL included.
     explicit AString(std::string_view narrow);
-    explicit AString(std::u16string units) : m_Units(std::move(units)) {}
+    explicit AString(std::u16string units);
 
     /// Replaces the text.
     void assign(const char* narrow) { *this = AString(narrow); }
     void assign(const wchar_t* wide) { *this = AString(wide); }
 
-    size_t size() const { return m_Units.size(); }
-    size_t length() const { return m_Units.size(); }
-    bool empty() const { return m_Units.empty(); }
-    const char16_t* c_str() const { return m_Units.c_str(); }
-    /// The unit at `index`, which must be below `size()`.
-    char16_t& operator[](size_t index) { return m_Units[index]; }
-    char16_t operator[](size_t index) const { return m_Units[index]; }
+    size_t size() const { return GetUnits().size(); }
+    size_t length() const { return size(); }
+    bool empty() const { return m_Text == nullptr; }
+    const char16_t* c_str() const { return GetUnits().c_str(); }
+    /// The unit at `index`, which must be below `size()`. Through the reference of the first, which is good until the
+    /// text is replaced, the unit can be changed; copies don't notice.
+    char16_t& operator[](size_t index);
+    char16_t operator[](size_t index) const { return GetUnits()[index]; }
 
     /// The first or last `n` units. An `n` outside 0 to `size()` takes what there is.
     AString Left(ptrdiff_t n) const;
     AString Right(ptrdiff_t n) const;
 
-    AString operator+(const AString& tail) const { return AString(m_Units + tail.m_Units); }
-    bool operator==(const AString& other) const { return m_Units == other.m_Units; }
+    AString operator+(const AString& tail) const { return AString(GetUnits() + tail.GetUnits()); }
+    bool operator==(const AString& other) const { return m_Text == other.m_Text || GetUnits() == other.GetUnits(); }
     /// Unit by unit; the order of every ordered map and set of the model.
-    bool operator<(const std::u16string& other) const { return m_Units < other; }
-    bool operator<(const AString& other) const { return m_Units < other.m_Units; }
+    bool operator<(const std::u16string& other) const { return GetUnits() < other; }
+    bool operator<(const AString& other) const { return GetUnits() < other.GetUnits(); }
 
     /// 0 for equal texts, else the sign of the unit by unit comparison. `CompareNoCase` folds the letters A to Z only.
     /// `GetFolded` gives equal units for texts that are equal but for that case, as the key of an index.
@@ -51,7 +64,7 @@ public:
     std::u16string GetFolded() const;
 
     /// Position of the first `text` at or behind `from`, `npos` when there is none.
-    size_t find(const AString& text, size_t from = 0) const { return m_Units.find(text.m_Units, from); }
+    size_t find(const AString& text, size_t from = 0) const { return GetUnits().find(text.GetUnits(), from); }
     /// Replaces `count` units from `pos` on by `text`. A `pos` behind the end changes nothing.
     void replace(size_t pos, size_t count, const AString& text);
 
@@ -77,24 +90,55 @@ public:
     /// value that fits 32 bits. Sets `value` only then.
     bool IsNumber(int& value, int base) const;
 
-    /// The narrow form, the only way to narrow output.
-    std::string QRL_ANSI() const;
+    /// The narrow form, the only way to narrow output. It is made once for all copies.
+    std::string QRL_ANSI() const { return std::string(GetNarrow()); }
+    /// The same in the memory of the text, which lives as long as one of its handles. Never a null pointer.
+    std::string_view GetNarrow() const;
 
 private:
+    /// What the copies share. An empty text has none.
+    struct Text {
+        std::u16string m_Units;
+        std::string m_Narrow = std::string(); ///< empty as long as nobody has asked for it
+        uint32_t m_Users = 1;
+        bool m_IsOpen = false; ///< someone may hold a reference to a unit: not to be shared any more
+    };
+
+    Text* Share() const {
+        if (m_Text == nullptr || m_Text->m_IsOpen)
+            return Make(GetUnits());
+        ++m_Text->m_Users;
+        return m_Text;
+    }
+    static void Release(Text* text) {
+        if (text != nullptr && --text->m_Users == 0)
+            delete text;
+    }
+    static Text* Make(std::u16string units) { return units.empty() ? nullptr : new Text{std::move(units)}; }
+    const std::u16string& GetUnits() const { return m_Text == nullptr ? k_NoUnits : m_Text->m_Units; }
+
+    /// The units of a text of this handle's own, which isn't empty.
+    std::u16string& ChangeUnits();
+
     static std::u16string ToText(long value);
     static std::u16string ToText(int value) { return ToText(static_cast<long>(value)); }
     static std::u16string ToText(const char16_t* text) { return text; }
-    static std::u16string ToText(const AString& text) { return text.m_Units; }
+    static std::u16string ToText(const AString& text) { return text.GetUnits(); }
     void FormatPieces(const AString& format, const std::vector<std::u16string>& pieces);
 
-    std::u16string m_Units;
+    static const std::u16string k_NoUnits;
+
+    Text* m_Text = nullptr;
 };
 
 namespace io {
 
 /// Whether two narrow texts are equal when the letters A to Z are folded: what `AString::CompareNoCase` tells of their
 /// wide forms, without making them.
-bool EqualsNoCase_G(std::string_view a, std::string_view b);
+bool HasEqualLettersNoCase_G(std::string_view a, std::string_view b);
+inline bool EqualsNoCase_G(std::string_view a, std::string_view b) {
+    return a.size() == b.size() && HasEqualLettersNoCase_G(a, b);
+}
 
 } // namespace io
 

@@ -56,6 +56,12 @@ CBlock& CBlock::operator<<(const CBlockPtr& block) {
     return *this;
 }
 
+CBlock& CBlock::operator<<(const CBlockDeferredPtr& block) {
+    CBlockDeferredPtr shared = block;
+    Change().AppendReference(shared.Item());
+    return *this;
+}
+
 CBlock& CBlock::operator<<(const CBlock_ptr<CBlock_func>& func) {
     CBlock_ptr<CBlock_func> shared = func;
     Change().AppendReference(shared.Item());

@@ -1,6 +1,7 @@
 #ifndef QRL_BLOCKS_CBLOCK_H
 #define QRL_BLOCKS_CBLOCK_H
 
+#include "blocks/CBlock_deferred.h"
 #include "blocks/CBlock_func.h"
 #include "blocks/CBlock_named_value.h"
 
@@ -35,6 +36,7 @@ public:
     CBlock& operator<<(const CBlock_func& func);
     CBlock& operator<<(const CBlock_named_value& value);
     CBlock& operator<<(const CBlockPtr& block);
+    CBlock& operator<<(const CBlockDeferredPtr& block);
     CBlock& operator<<(const CBlock_ptr<CBlock_func>& func);
     CBlock& operator<<(const CBlockFuncPtr& func) { return *this << func.GetPtr(); }
 
@@ -51,6 +53,8 @@ public:
     size_t SizeOf(bool withTree) const override;
 
 private:
+    friend class CBlock_open_func;
+
     NodeList& Change();
 
     TreeView m_Tree;

@@ -52,23 +52,23 @@ CBlock_func& CBlock_func::operator>>(AString& value) {
 }
 
 const CBlock_func& CBlock_func::operator>>(CBlock_func& query) const {
-    const std::string_view wanted = query.m_Tree.GetName();
-    const Node* end = m_Tree.GetEnd();
-    const Node* node = m_Tree.GetBegin();
-    while (node != end && !IsFuncNamed(*node, wanted))
-        node = node->GetNext();
-    const bool isFound = node != end;
-    if (isFound)
-        query.Enter(m_Tree, *node);
-    m_IsOk = isFound;
+    const std::optional<TreeView> found = FindFunc(query.m_Tree.GetName());
+    m_IsOk = found.has_value();
+    if (found)
+        query = CBlock_func(*found);
     return *this;
 }
 
-bool CBlock_func::IsFuncNamed(const Node& node, std::string_view name) {
-    if (node.GetKind() == NodeKind::k_Func)
-        return EqualsNoCase_G(node.GetText(), name);
-    const CBlock_func* func = FuncOfReference(node);
-    return func != nullptr && func->NameIs(name);
+std::optional<TreeView> CBlock_func::FindFunc(std::string_view name) const {
+    const Node* end = m_Tree.GetEnd();
+    for (const Node* node = m_Tree.GetBegin(); node != end; node = node->GetNext()) {
+        if (node->GetKind() == NodeKind::k_Func && EqualsNoCase_G(node->GetText(), name))
+            return TreeView(m_Tree, node);
+        const CBlock_func* func = FuncOfReference(*node);
+        if (func != nullptr && func->NameIs(name))
+            return func->m_Tree;
+    }
+    return std::nullopt;
 }
 
 const CBlock_func* CBlock_func::FuncOfReference(const Node& node) {
@@ -79,7 +79,10 @@ bool CBlock_func::Enter(const TreeView& parent, const Node& node) {
     const CBlock_func* referenced = FuncOfReference(node);
     if (node.GetKind() != NodeKind::k_Func && referenced == nullptr)
         return false;
-    m_Tree = referenced != nullptr ? referenced->m_Tree : TreeView(parent, &node);
+    if (referenced != nullptr)
+        m_Tree = referenced->m_Tree;
+    else
+        m_Tree.MoveTo(parent, &node);
     m_Read = 0;
     m_IsOk = true;
     m_NameToken.reset();
@@ -101,7 +104,7 @@ CBlock_func& CBlock_func::operator<<(double value) {
     return *this;
 }
 
-CBlock_func& CBlock_func::operator<<(const AString& text) { return *this << std::string_view(text.QRL_ANSI()); }
+CBlock_func& CBlock_func::operator<<(const AString& text) { return *this << text.GetNarrow(); }
 
 CBlock_func& CBlock_func::operator<<(std::string_view text) {
     Change().AppendText(NodeKind::k_Text, text);

@@ -6,6 +6,7 @@
 #include "blocks/TreeView.h"
 
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace io {
@@ -46,6 +47,9 @@ public:
     CBlock_ptr<CBlock_func_arg> Item(NodeIterator at) const;
     /// The arguments that are funcs, for a range-based for. What isn't one is passed over.
     FuncRange Funcs() const;
+
+    /// The first argument that is a func of that name, but for case.
+    std::optional<TreeView> FindFunc(std::string_view name) const;
 
     /// Whether the name equals `name` but for the case of the letters A to Z.
     bool NameIs(std::string_view name) const { return EqualsNoCase_G(m_Tree.GetName(), name); }
@@ -108,8 +112,6 @@ private:
 
     template <class T>
     CBlock_func& ReadValue(T& value);
-    /// Whether the node is a func of that name, itself or by reference.
-    static bool IsFuncNamed(const Node& node, std::string_view name);
     /// The func that the node refers to; null for any other node.
     static const CBlock_func* FuncOfReference(const Node& node);
     /// Becomes the func at `node`, which stands in the tree of `parent`. False, with nothing changed, when there is

@@ -1,12 +1,11 @@
 #include "blocks/NeutralWriter.h"
 
-#include "blocks/CBlock.h"
-#include "blocks/CBlock_func.h"
 #include "blocks/ValueText.h"
 
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <utility>
 
 namespace io {
 
@@ -14,9 +13,13 @@ namespace {
 
 constexpr size_t k_BufferSize = size_t{256} * 1024;
 
-/// The node behind `node` and any that stand for nothing.
+bool IsNothing(const Node& node) { return node.GetKind() == NodeKind::k_Reference && node.GetReference() == nullptr; }
+
+bool IsValue(const Node& node) { return !node.HasChildren() && node.GetKind() != NodeKind::k_Reference; }
+
+/// The first node from `node` on that stands for something.
 const Node* SkipNothing(const Node* node, const Node* end) {
-    while (node != end && node->GetKind() == NodeKind::k_Reference && node->GetReference() == nullptr)
+    while (node != end && IsNothing(*node))
         ++node;
     return node;
 }
@@ -32,24 +35,28 @@ constexpr auto k_NeedsEscape = [] {
     return table;
 }();
 
+/// Looks at all of the text, as most of them have none: that is quicker than to stop at the first.
+bool HasSpecial(std::string_view text) {
+    bool isSpecial = false;
+    for (const char c : text)
+        isSpecial |= k_NeedsEscape[static_cast<unsigned char>(c)];
+    return isSpecial;
+}
+
 } // namespace
 
 NeutralWriter::NeutralWriter(CAbstract_ostream& stream)
-    : m_Stream(stream), m_Buffer(std::make_unique_for_overwrite<char[]>(k_BufferSize)), m_At(m_Buffer.get()) {}
+    : m_Stream(stream), m_Buffer(std::make_unique_for_overwrite<char[]>(k_BufferSize)), m_At(m_Buffer.get()),
+      m_End(m_At + k_BufferSize) {}
 
 void NeutralWriter::Write(const TreeView& tree) {
     Enter(tree.GetRoot(), tree.GetEnd(), 0);
-    while (!m_Frames.empty()) {
-        Frame& frame = m_Frames.back();
-        frame.m_Next = SkipNothing(frame.m_Next, frame.m_End);
-        if (frame.m_Next == frame.m_End)
-            Leave();
-        else if (frame.m_IsBlock)
-            WriteItem(frame);
-        else
-            WriteArgument(frame);
-    }
-    HandOn();
+    WriteFrames();
+}
+
+void NeutralWriter::Write(const CBlock_deferred& block) {
+    Enter(block, 0);
+    WriteFrames();
 }
 
 void NeutralWriter::WriteNamedValue(std::string_view name, const CToken& value) {
@@ -62,16 +69,69 @@ void NeutralWriter::WriteValue(const CToken& value) {
     HandOn();
 }
 
+void NeutralWriter::WriteFrames() {
+    while (!m_Frames.empty()) {
+        Frame& frame = m_Frames.back();
+        frame.m_Next = SkipNothing(frame.m_Next, frame.m_End);
+        if (frame.m_Next == frame.m_End)
+            MakeItemsOrLeave(frame);
+        else if (frame.m_IsBlock)
+            WriteItem(frame);
+        else
+            WriteArguments(frame);
+    }
+    HandOn();
+}
+
 void NeutralWriter::Enter(const Node* node, const Node* end, size_t depth) {
     const bool isBlock = node->GetKind() == NodeKind::k_Block;
     PutName(node->GetText());
-    Put(isBlock ? " {\n" : "(");
-    m_Frames.push_back({node->GetFirstChild(), end, depth, isBlock});
+    if (isBlock)
+        PutMark(" {\n");
+    else
+        Put('(');
+    m_Frames.push_back({.m_Next = node->GetFirstChild(), .m_End = end, .m_Depth = depth, .m_IsBlock = isBlock});
+}
+
+void NeutralWriter::Enter(const CBlock_deferred& block, size_t depth) {
+    PutName(block.NameToken().GetText());
+    PutMark(" {\n");
+    m_Deferred.push_back({.m_Block = block});
+    m_Frames.push_back({.m_Depth = depth, .m_IsBlock = true, .m_IsDeferred = true});
+}
+
+/// What stands by reference is written as if it stood here.
+void NeutralWriter::EnterReference(const CStreamio_object* target, size_t depth) {
+    if (const auto* func = dynamic_cast<const CBlock_func*>(target))
+        Enter(func->GetTree().GetRoot(), func->GetTree().GetEnd(), depth);
+    else if (const auto* block = dynamic_cast<const CBlock*>(target))
+        Enter(block->GetTree().GetRoot(), block->GetTree().GetEnd(), depth);
+    else
+        Enter(static_cast<const CBlock_deferred&>(*target), depth);
+}
+
+/// Has the next items of a deferred block made, in place of those that have been written.
+void NeutralWriter::MakeItemsOrLeave(Frame& block) {
+    if (!block.m_IsDeferred) {
+        Leave();
+        return;
+    }
+    Deferred& deferred = m_Deferred.back();
+    CBlock& items = deferred.m_Items;
+    items.Clear();
+    while (items.begin() == items.end() && deferred.m_NextIndex < deferred.m_Block.GetCount())
+        deferred.m_Block.Make(deferred.m_NextIndex++, items);
+    block.m_Next = items.GetTree().GetBegin();
+    block.m_End = items.GetTree().GetEnd();
+    if (block.m_Next == block.m_End)
+        Leave();
 }
 
 void NeutralWriter::Leave() {
     const Frame frame = m_Frames.back();
     m_Frames.pop_back();
+    if (frame.m_IsDeferred)
+        m_Deferred.pop_back();
     if (frame.m_IsBlock)
         PutLineStart(frame.m_Depth);
     Put(frame.m_IsBlock ? '}' : ')');
@@ -84,48 +144,58 @@ void NeutralWriter::WriteItem(Frame& block) {
     const size_t depth = block.m_Depth + 1;
     block.m_Next = item.GetNext();
     PutLineStart(depth);
-    const Node& value = *item.GetFirstChild();
-    if (item.GetKind() == NodeKind::k_NamedValue)
+    if (item.GetKind() == NodeKind::k_Reference) {
+        EnterReference(item.GetReference(), depth);
+    } else if (item.GetKind() == NodeKind::k_NamedValue) {
+        const Node& value = *item.GetFirstChild();
         PutNamedValue(item.GetText(), value, NodeValue(value).GetText());
-    else
-        WriteEntry(item, depth);
+    } else {
+        Enter(&item, item.GetNext(), depth);
+    }
 }
 
-void NeutralWriter::WriteArgument(Frame& func) {
+/// All values up to the next func, and that func's beginning.
+void NeutralWriter::WriteArguments(Frame& func) {
+    const Node* node = func.m_Next;
+    for (; node != func.m_End && IsValue(*node); node = node->GetNext()) {
+        StartArgument(func);
+        PutValue(*node, NodeValue(*node).GetText());
+    }
+    func.m_Next = node;
+    if (node != func.m_End && !IsNothing(*node))
+        WriteFuncArgument(func);
+}
+
+void NeutralWriter::WriteFuncArgument(Frame& func) {
     const Node& argument = *func.m_Next;
     func.m_Next = argument.GetNext();
-    const bool isFunc = argument.HasChildren() || argument.GetKind() == NodeKind::k_Reference;
     const bool isOnly = func.m_IsFirst && SkipNothing(func.m_Next, func.m_End) == func.m_End;
-    func.m_IsBroken = func.m_IsBroken || (isFunc && !isOnly);
-    if (!func.m_IsFirst)
-        Put(func.m_IsBroken ? "," : ", ");
-    func.m_IsFirst = false;
-    size_t depth = func.m_Depth;
-    if (func.m_IsBroken) {
-        ++depth;
-        Put('\n');
-        PutLineStart(depth);
-    }
-    WriteEntry(argument, depth);
+    func.m_IsBroken = !isOnly;
+    const size_t depth = StartArgument(func);
+    if (argument.GetKind() == NodeKind::k_Reference)
+        EnterReference(argument.GetReference(), depth);
+    else
+        Enter(&argument, argument.GetNext(), depth);
 }
 
-/// What stands by reference is written as if it stood here.
-void NeutralWriter::WriteEntry(const Node& entry, size_t depth) {
-    if (entry.GetKind() == NodeKind::k_Reference) {
-        const auto* func = dynamic_cast<const CBlock_func*>(entry.GetReference());
-        const TreeView& tree =
-            func != nullptr ? func->GetTree() : static_cast<const CBlock*>(entry.GetReference())->GetTree();
-        Enter(tree.GetRoot(), tree.GetEnd(), depth);
-    } else if (entry.HasChildren()) {
-        Enter(&entry, entry.GetNext(), depth);
-    } else {
-        PutValue(entry, NodeValue(entry).GetText());
+/// Puts what stands ahead of an argument. Returns the depth of its line.
+size_t NeutralWriter::StartArgument(Frame& func) {
+    const bool isFirst = std::exchange(func.m_IsFirst, false);
+    if (!func.m_IsBroken) {
+        if (!isFirst)
+            PutMark(", ");
+        return func.m_Depth;
     }
+    if (!isFirst)
+        Put(',');
+    Put('\n');
+    PutLineStart(func.m_Depth + 1);
+    return func.m_Depth + 1;
 }
 
 void NeutralWriter::PutNamedValue(std::string_view name, const Node& value, std::string_view text) {
     PutName(name);
-    Put(" = ");
+    PutMark(" = ");
     PutValue(value, text);
     Put('\n');
 }
@@ -133,7 +203,7 @@ void NeutralWriter::PutNamedValue(std::string_view name, const Node& value, std:
 void NeutralWriter::PutValue(const Node& value, std::string_view text) {
     switch (value.GetKind()) {
     case NodeKind::k_Bool:
-        Put(value.GetBool() ? "true" : "false");
+        Put(std::string_view(value.GetBool() ? "true" : "false"));
         return;
     case NodeKind::k_Int:
         PutWhole(value.GetInt());
@@ -168,12 +238,16 @@ void NeutralWriter::PutWhole(int value) {
 
 void NeutralWriter::PutNumber(double value) {
     char* at = MakeRoom(k_NumberRoom);
-    m_At = PutDouble(at, value);
+    m_At = m_Numbers.Put(at, value);
 }
 
 void NeutralWriter::PutLineStart(size_t depth) {
-    for (; depth != 0; --depth)
-        Put('\t');
+    constexpr size_t k_AtOnce = 64;
+    while (depth != 0) {
+        const size_t count = std::min(depth, k_AtOnce);
+        std::memset(MakeRoom(count), '\t', count);
+        depth -= count;
+    }
 }
 
 void NeutralWriter::PutName(std::string_view name) {
@@ -185,6 +259,13 @@ void NeutralWriter::PutName(std::string_view name) {
 
 void NeutralWriter::PutString(std::string_view text) {
     const auto needsEscape = [](char c) { return k_NeedsEscape[static_cast<unsigned char>(c)]; };
+    constexpr size_t k_Short = 64;
+    if (text.size() <= k_Short && !HasSpecial(text)) {
+        char* at = MakeRoom(text.size() + 2);
+        *at = '"';
+        *std::copy(text.begin(), text.end(), at + 1) = '"';
+        return;
+    }
     Put('"');
     while (!text.empty()) {
         const auto special = std::find_if(text.begin(), text.end(), needsEscape);
@@ -215,21 +296,13 @@ void NeutralWriter::PutEscaped(char c) {
 }
 
 void NeutralWriter::Put(std::string_view text) {
-    const auto room = static_cast<size_t>(m_Buffer.get() + k_BufferSize - m_At);
-    if (text.size() > room)
+    if (text.size() > static_cast<size_t>(m_End - m_At))
         HandOn();
     if (text.size() > k_BufferSize) {
         m_Stream.Put(text);
         return;
     }
     m_At = std::copy(text.begin(), text.end(), m_At);
-}
-
-char* NeutralWriter::MakeRoom(size_t size) {
-    if (m_At + size > m_Buffer.get() + k_BufferSize)
-        HandOn();
-    m_At += size;
-    return m_At - size;
 }
 
 void NeutralWriter::HandOn() {

@@ -2,9 +2,11 @@
 #define QRL_BLOCKS_NEUTRALWRITER_H
 
 #include "blocks/CAbstract_ostream.h"
-#include "blocks/CToken.h"
-#include "blocks/TreeView.h"
+#include "blocks/CBlock.h"
+#include "blocks/NumberMemo.h"
 
+#include <cstring>
+#include <deque>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -29,6 +31,7 @@ public:
 
     /// Writes a block or func with a line end behind it.
     void Write(const TreeView& tree);
+    void Write(const CBlock_deferred& block);
     /// Writes a named value with a line end behind it.
     void WriteNamedValue(std::string_view name, const CToken& value);
     /// Writes a value without a line end.
@@ -41,15 +44,27 @@ private:
         const Node* m_End = nullptr;
         size_t m_Depth = 0; ///< of the line on which the name stands
         bool m_IsBlock = false;
-        bool m_IsFirst = true;   ///< no argument has been written yet
-        bool m_IsBroken = false; ///< each further argument takes a line of its own
+        bool m_IsDeferred = false; ///< the items come from the last of `m_Deferred`
+        bool m_IsFirst = true;     ///< no argument has been written yet
+        bool m_IsBroken = false;   ///< each further argument takes a line of its own
+    };
+    /// A deferred block that is being written, and the items of it that are there just now.
+    struct Deferred {
+        const CBlock_deferred& m_Block;
+        size_t m_NextIndex = 0;
+        CBlock m_Items = CBlock();
     };
 
+    void WriteFrames();
     void Enter(const Node* node, const Node* end, size_t depth);
+    void Enter(const CBlock_deferred& block, size_t depth);
+    void EnterReference(const CStreamio_object* target, size_t depth);
+    void MakeItemsOrLeave(Frame& block);
     void Leave();
     void WriteItem(Frame& block);
-    void WriteArgument(Frame& func);
-    void WriteEntry(const Node& entry, size_t depth);
+    void WriteArguments(Frame& func);
+    void WriteFuncArgument(Frame& func);
+    size_t StartArgument(Frame& func);
     void PutNamedValue(std::string_view name, const Node& value, std::string_view text);
     void PutValue(const Node& value, std::string_view text);
     void PutWord(const NodeValue& word);
@@ -61,14 +76,27 @@ private:
     void PutEscaped(char c);
     void Put(std::string_view text);
     void Put(char c) { *MakeRoom(1) = c; }
-    /// Room for `size` bytes, which count as written. `size` is at most `k_NumberRoom`.
-    char* MakeRoom(size_t size);
+    /// What is known when this is compiled needs no call to be copied.
+    template <size_t size>
+    void PutMark(const char (&mark)[size]) {
+        std::memcpy(MakeRoom(size - 1), mark, size - 1);
+    }
+    /// Room for `size` bytes, which count as written. `size` is far below that of the buffer.
+    char* MakeRoom(size_t size) {
+        if (size > static_cast<size_t>(m_End - m_At)) [[unlikely]]
+            HandOn();
+        m_At += size;
+        return m_At - size;
+    }
     void HandOn();
 
     CAbstract_ostream& m_Stream;
     std::vector<Frame> m_Frames;
+    std::deque<Deferred> m_Deferred;
+    NumberMemo m_Numbers;
     std::unique_ptr<char[]> m_Buffer;
     char* m_At;
+    const char* m_End;
 };
 
 } // namespace io

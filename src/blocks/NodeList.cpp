@@ -83,6 +83,16 @@ void NodeList::ShrinkToFit() {
     Resize(m_Storage->m_Size);
 }
 
+bool NodeList::TryClear() {
+    if (m_Storage->m_Users != 1)
+        return false;
+    DropReferences(m_Storage);
+    m_Storage->m_References = 0;
+    m_Storage->m_InnermostOpen = 0;
+    m_Storage->m_Size = GetRoot()->GetOwnNodes();
+    return true;
+}
+
 NodeList::Storage* NodeList::Allocate(size_t capacity) {
     auto* storage = new (base::AllocateLarge(GetBytes(capacity))) Storage;
     storage->m_Capacity = capacity;

@@ -35,6 +35,8 @@ public:
     /// The tree from `root` down, as a tree of its own. `end` is the node behind it.
     static NodeList CopyOf(const Node* root, const Node* end);
 
+    bool SharesWith(const NodeList& other) const { return m_Storage == other.m_Storage; }
+
     const Node* GetRoot() const { return m_Storage->GetNodes(); }
     const Node* GetEnd() const { return GetRoot() + m_Storage->m_Size; }
     /// Bytes of memory that the tree takes, without what stands in it by reference.
@@ -87,6 +89,8 @@ public:
     void ExpectText(size_t size);
     /// Gives back the memory that was set aside for growth.
     void ShrinkToFit();
+    /// Drops all but the root, and keeps the memory. False, with nothing done, where others share the tree.
+    bool TryClear();
 
 private:
     /// The nodes and their administration in one piece of memory.

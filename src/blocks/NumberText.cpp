@@ -1,5 +1,6 @@
 #include "blocks/NumberText.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -63,8 +64,9 @@ NumberText ParseNumber_G(std::string_view text) {
         ++at;
     constexpr ptrdiff_t k_DigitsOfAnyInt64 = 18;
     const char* first = at;
+    const char* limit = at + std::min(end - at, k_DigitsOfAnyInt64);
     int64_t whole = 0;
-    while (at != end && IsDigit(*at) && at - first < k_DigitsOfAnyInt64)
+    while (at != limit && IsDigit(*at))
         whole = whole * 10 + (*at++ - '0');
     if (at == end && at != first) {
         whole = isNegative ? -whole : whole;

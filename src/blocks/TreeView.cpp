@@ -16,6 +16,11 @@ void TreeView::SetName(std::string_view name) {
     *this = renamed;
 }
 
+void TreeView::Clear() {
+    if (m_Root != 0 || !m_Nodes.TryClear())
+        *this = TreeView(GetRoot()->GetKind(), GetName());
+}
+
 NodeList& TreeView::Own() {
     if (m_Root != 0) {
         m_Nodes = NodeList::CopyOf(GetRoot(), GetEnd());

@@ -17,6 +17,13 @@ public:
     TreeView(const TreeView& within, const Node* place)
         : m_Nodes(within.m_Nodes), m_Root(static_cast<size_t>(place - m_Nodes.GetRoot())) {}
 
+    /// Becomes the view of `place` in the tree of `within`.
+    void MoveTo(const TreeView& within, const Node* place) {
+        if (!m_Nodes.SharesWith(within.m_Nodes))
+            m_Nodes = within.m_Nodes;
+        m_Root = static_cast<size_t>(place - m_Nodes.GetRoot());
+    }
+
     const Node* GetRoot() const { return m_Nodes.GetRoot() + m_Root; }
     const Node* GetBegin() const { return GetRoot()->GetFirstChild(); }
     const Node* GetEnd() const { return m_Root == 0 ? m_Nodes.GetEnd() : GetRoot()->GetNext(); }
@@ -24,7 +31,8 @@ public:
     int GetCount() const;
 
     void SetName(std::string_view name);
-    void Clear() { *this = TreeView(GetRoot()->GetKind(), GetName()); }
+    /// Drops all but the name. A tree that nobody shares keeps its memory for what comes next.
+    void Clear();
     /// The nodes for a change: a tree of its own, of which this is the root.
     NodeList& Own();
     size_t GetMemory() const { return m_Nodes.GetMemory(); }

@@ -1,5 +1,7 @@
 #include "blocks/ValueText.h"
 
+#include "blocks/PlainDecimal.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -17,6 +19,8 @@ constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 } // namespace
 
 char* PutDouble(char* to, double value) {
+    if (char* end = TryPutDecimal(to, value))
+        return end;
     if (!std::isfinite(value))
         return Put(to, std::isnan(value) ? "nan" : value > 0 ? "inf" : "-inf");
     char* end = std::to_chars(to, to + k_NumberRoom, value).ptr;

@@ -4,13 +4,13 @@
 
 #include <utility>
 
-Trace::Trace(std::vector<PathVertex> traceVertices, AString layerName, Net* traceNet)
-    : vertices(std::move(traceVertices)), layer(std::move(layerName)) {
+Trace::Trace(const std::vector<PathVertex>& traceVertices, AString layerName, Net* traceNet, allocator_type memory)
+    : vertices(traceVertices.begin(), traceVertices.end(), memory), layer(std::move(layerName)) {
     SetNet(traceNet);
 }
 
 int Trace::GetVertices(std::vector<PathVertex>& out) const {
-    out = vertices;
+    out.assign(vertices.begin(), vertices.end());
     return static_cast<int>(out.size());
 }
 

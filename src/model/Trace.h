@@ -4,6 +4,7 @@
 #include "blocks/AString.h"
 #include "model/PathVertex.h"
 
+#include <memory_resource>
 #include <vector>
 
 class Net;
@@ -11,8 +12,10 @@ class Net;
 /// One line of constant width on one layer. It may have no vertices; it is not written then.
 class Trace {
 public:
-    /// Enters itself in `traceNet`, unless that is null.
-    Trace(std::vector<PathVertex> traceVertices, AString layerName, Net* traceNet);
+    using allocator_type = std::pmr::polymorphic_allocator<>;
+
+    /// Enters itself in `traceNet`, unless that is null. Keeps a copy of the vertices in `memory`.
+    Trace(const std::vector<PathVertex>& traceVertices, AString layerName, Net* traceNet, allocator_type memory = {});
     Trace(const Trace&) = delete;
     Trace& operator=(const Trace&) = delete;
     ~Trace() = default;
@@ -24,7 +27,7 @@ public:
     /// Gives the trace to a net and enters it there. Null changes nothing.
     void SetNet(Net* traceNet);
 
-    std::vector<PathVertex> vertices;
+    std::pmr::vector<PathVertex> vertices;
     AString layer;
     Net* net = nullptr; ///< a trace without one is written nowhere
 };

@@ -19,15 +19,19 @@ AString GetNumbered(const AString& base, int32_t n) {
 AString UsedNames::AddNumbered(const AString& base, int32_t n) {
     Onward& onward = m_OnwardByBase[base];
     std::vector<int32_t> taken;
+    AString name;
     int32_t candidate = GetNext(n);
     for (;;) {
         const auto hop = onward.find(candidate);
-        if (hop == onward.end() && Add(GetNumbered(base, candidate)))
-            break;
+        if (hop == onward.end()) {
+            name = GetNumbered(base, candidate);
+            if (Add(name))
+                break;
+        }
         taken.push_back(candidate);
         candidate = hop == onward.end() ? GetNext(candidate) : hop->second;
     }
     for (const int32_t number : taken)
         onward[number] = candidate;
-    return GetNumbered(base, candidate);
+    return name;
 }

@@ -7,6 +7,7 @@
 #include "lib/math/geometry/Box.h"
 #include "lib/math/geometry/Polygon.h"
 #include "lib/math/geometry/Transformation.h"
+#include "lib/utils/Arena.h"
 #include "model/BasePad.h"
 #include "model/Component.h"
 #include "model/CornerRound.h"
@@ -297,12 +298,13 @@ private:
     int32_t layerCount = 1;    ///< read by nothing
     geom::Box boardBox;        ///< around the objects of all nets
 
-    RecordPool_T<Layer> layers;
-    RecordPool_T<FootprintPin> footprintPins;
-    RecordPool_T<PadstackLayerPad> layerPads;
-    RecordPool_T<Trace> traces;
-    RecordPool_T<Surface> surfaces;
-    RecordPool_T<Via> vias;
+    base::Arena memory; ///< of the records below
+    RecordPool_T<Layer> layers{memory};
+    RecordPool_T<FootprintPin> footprintPins{memory};
+    RecordPool_T<PadstackLayerPad> layerPads{memory};
+    RecordPool_T<Trace> traces{memory};
+    RecordPool_T<Surface> surfaces{memory};
+    RecordPool_T<Via> vias{memory};
 };
 
 #endif

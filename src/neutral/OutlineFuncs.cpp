@@ -2,23 +2,21 @@
 
 #include "neutral/Keywords.h"
 
-void AppendPoint_G(geom::Point point, io::CBlock_func& func) {
+void AppendPoint_G(geom::Point point, io::CBlock_open_func& func) {
     func << static_cast<double>(point.GetX()) << static_cast<double>(point.GetY());
 }
 
-void AppendVertex_G(geom::Point point, const char* word, io::CBlock_func& func) {
-    io::CBlock_func vertex(word);
+void AppendVertex_G(geom::Point point, const char* word, io::CBlock_open_func& func) {
+    io::CBlock_open_func vertex(func, word);
     AppendPoint_G(point, vertex);
-    func << vertex;
 }
 
-void AppendArc_G(double height, io::CBlock_func& func) {
-    io::CBlock_func arc(keyword::k_Arc);
+void AppendArc_G(double height, io::CBlock_open_func& func) {
+    io::CBlock_open_func arc(func, keyword::k_Arc);
     arc << height;
-    func << arc;
 }
 
-void AppendPieces_G(const std::vector<geom::Arc>& pieces, const char* word, io::CBlock_func& func) {
+void AppendPieces_G(const std::vector<geom::Arc>& pieces, const char* word, io::CBlock_open_func& func) {
     for (const geom::Arc& piece : pieces) {
         AppendVertex_G(piece.GetStart(), word, func);
         if (!piece.IsSegment(piece.GetEpsilon()))

@@ -8,11 +8,10 @@ constexpr int k_AllVoids = 15; ///< what the format wants beside each layer
 
 } // namespace
 
-void AppendRemovedThermalVoids_G(const std::vector<AString>& layers, io::CBlock_func& func) {
+void AppendRemovedThermalVoids_G(const std::vector<AString>& layers, io::CBlock_open_func& func) {
     if (layers.empty())
         return;
-    io::CBlock_func removed(keyword::k_RemoveThermalVoids);
+    io::CBlock_open_func removed(func, keyword::k_RemoveThermalVoids);
     for (const AString& layer : layers)
         removed << layer << k_AllVoids;
-    func << removed;
 }

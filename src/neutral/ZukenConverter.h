@@ -85,8 +85,11 @@ public:
     // ZukenConverter_LayoutNets.cpp: the copper of the nets
 
     void WriteLayoutNets(const Nets& nets, io::CBlock& parent);
-    /// Vias, then surfaces, then traces: the order of the ids.
+    /// The name, then vias, then surfaces, then traces: the order of the ids.
     void WriteLayoutNet(const Net& net, io::CBlock& block);
+    void WriteLayoutNetItem(const Net& net, size_t index, io::CBlock& block);
+    /// Nothing for a via without a padstack.
+    void WriteVia(const Via& via, io::CBlock& block);
 
     // ZukenConverter_Graphics.cpp: surfaces and traces
 

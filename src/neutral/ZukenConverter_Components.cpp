@@ -1,4 +1,6 @@
+#include "blocks/CBlock_open_func.h"
 #include "neutral/Keywords.h"
+#include "neutral/RecordBlock_T.h"
 #include "neutral/ZukenConverter.h"
 
 namespace {
@@ -11,20 +13,17 @@ io::CBlock_func MakeCompDef(const Component& component) {
     return func;
 }
 
-io::CBlock_func MakeTerminal(const AString& pinName) {
-    io::CBlock_func func(keyword::k_Terminal);
-    func << pinName << pinName << "A" << false;
-    return func;
+void WriteTerminal(const AString& pinName, io::CBlock& block) {
+    const std::string name = pinName.QRL_ANSI();
+    io::CBlock_open_func func(block, keyword::k_Terminal);
+    func << name << name << "A" << false;
 }
 
 } // namespace
 
 /// Each placed part is a definition of its own, also where parts are identical.
 bool ZukenConverter::WriteComponents(const Components& components, io::CBlock& root) {
-    io::CBlockPtr block(keyword::k_Components);
-    for (const Component* component : components)
-        WriteComponentDef(*component, *block);
-    root << block;
+    root << MakeRecordBlock_T(keyword::k_Components, components, WriteComponentDef);
     return true;
 }
 
@@ -34,7 +33,7 @@ bool ZukenConverter::WriteComponentDef(const Component& component, io::CBlock& b
     io::CBlock definition(component.id);
     definition << MakeCompDef(component);
     for (const FootprintPin* pin : component.footprint->pins)
-        definition << MakeTerminal(pin->name);
+        WriteTerminal(pin->name, definition);
     block << definition;
     return true;
 }

@@ -1,27 +1,28 @@
 #include "neutral/Keywords.h"
 #include "neutral/OutlineFuncs.h"
+#include "neutral/RecordBlock_T.h"
 #include "neutral/ZukenConverter.h"
 
 namespace {
 
-/// Each pin has a block of its own.
-io::CBlock MakePinDef(const FootprintPin& pin) {
-    io::CBlock_func func(keyword::k_FpPin);
+void WritePin(const FootprintPin& pin, io::CBlock& block) {
+    io::CBlock_open_func func(block, keyword::k_FpPin);
     func << pin.name;
     AppendPoint_G(pin.location, func);
     func << pin.padstack->name << pin.angle;
+}
+
+/// Each pin has a block of its own.
+io::CBlock MakePinDef(const FootprintPin& pin) {
     io::CBlock pinDef(keyword::k_FpPinDef);
-    pinDef << func;
+    WritePin(pin, pinDef);
     return pinDef;
 }
 
 } // namespace
 
 bool ZukenConverter::WriteFootprints(const Footprints& footprints, io::CBlock& root) {
-    io::CBlockPtr block(keyword::k_Footprints);
-    for (const Footprint* footprint : footprints)
-        WriteFootprint(*footprint, *block);
-    root << block;
+    root << MakeRecordBlock_T(keyword::k_Footprints, footprints, WriteFootprint);
     return true;
 }
 

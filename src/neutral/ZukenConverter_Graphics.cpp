@@ -3,6 +3,7 @@
 #include "neutral/ZukenConverter.h"
 
 #include <cmath>
+#include <span>
 
 namespace {
 
@@ -23,57 +24,56 @@ geom::Polygon MakeCornered(const geom::Circle& circle) {
 }
 
 /// Circle(id, half width, x, y, diameter)
-io::CBlock_func MakeCircle(int32_t id, double halfWidth, const geom::Circle& circle) {
-    io::CBlock_func func(keyword::k_Circle);
+template <class Parent>
+void AppendCircle_T(int32_t id, double halfWidth, const geom::Circle& circle, Parent& parent) {
+    io::CBlock_open_func func(parent, keyword::k_Circle);
     func << id << halfWidth;
     AppendPoint_G(circle.GetCenter(), func);
     func << static_cast<double>(circle.GetRadius()) * 2.0;
-    return func;
 }
 
 /// Polygon(id, half width, vertex(x, y), Arc(height), vertex(x, y), ...)
-io::CBlock_func MakePolygon(int32_t id, double halfWidth, const std::vector<geom::Arc>& pieces) {
-    io::CBlock_func func(keyword::k_Polygon);
+void AppendPolygon(int32_t id, double halfWidth, const std::vector<geom::Arc>& pieces, io::CBlock& block) {
+    io::CBlock_open_func func(block, keyword::k_Polygon);
     func << id << halfWidth;
     AppendPieces_G(pieces, keyword::k_OutlineVertex, func);
-    return func;
 }
 
 /// A surface on its own repeats its first point at the end, unlike one with voids.
-io::CBlock_func MakeClosedPolygon(int32_t id, const SurfaceLoop& outline) {
+void AppendClosedPolygon(int32_t id, const SurfaceLoop& outline, io::CBlock_open_func& graphics) {
     const std::vector<geom::Arc> pieces = outline.polygon.GetArcs();
-    io::CBlock_func func = MakePolygon(id, outline.halfWidth, pieces);
+    io::CBlock_open_func func(graphics, keyword::k_Polygon);
+    func << id << outline.halfWidth;
+    AppendPieces_G(pieces, keyword::k_OutlineVertex, func);
     if (!pieces.empty())
         AppendVertex_G(pieces.back().GetEnd(), keyword::k_OutlineVertex, func);
-    return func;
 }
 
-io::CBlock_func MakeVoid(int32_t id, const SurfaceLoop& loop) {
+void AppendVoid(int32_t id, const SurfaceLoop& loop, io::CBlock& voids) {
     geom::Circle circle = k_NoCircle;
     if (loop.polygon.IsCircle(loop.polygon.GetEpsilon(), &circle))
-        return MakeCircle(id, loop.halfWidth, circle);
-    return MakePolygon(id, loop.halfWidth, loop.polygon.GetArcs());
+        AppendCircle_T(id, loop.halfWidth, circle, voids);
+    else
+        AppendPolygon(id, loop.halfWidth, loop.polygon.GetArcs(), voids);
 }
 
 /// Vertex(x, y, start width, end width, "Round", "Radiallymitered", 0)
-io::CBlock_func MakePathVertex(const PathVertex& vertex) {
-    io::CBlock_func func(keyword::k_Vertex);
+void AppendPathVertex(const PathVertex& vertex, io::CBlock_open_func& path) {
+    io::CBlock_open_func func(path, keyword::k_Vertex);
     func << vertex.x << vertex.y << vertex.startWidth << vertex.endWidth << keyword::k_Round
          << keyword::k_RadiallyMitered << vertex.reserved;
-    return func;
 }
 
 /// A height stands behind the vertex at which its arc begins; at the last one none does.
-io::CBlock_func MakePath(int32_t id, const std::vector<PathVertex>& vertices) {
-    io::CBlock_func path(keyword::k_Path);
+void AppendPath(int32_t id, std::span<const PathVertex> vertices, io::CBlock_open_func& graphics) {
+    io::CBlock_open_func path(graphics, keyword::k_Path);
     path << id;
     for (const PathVertex& vertex : vertices) {
-        path << MakePathVertex(vertex);
+        AppendPathVertex(vertex, path);
         const bool isCurved = std::abs(vertex.height) > k_StraightHeight;
         if (isCurved && &vertex != &vertices.back())
             AppendArc_G(vertex.height, path);
     }
-    return path;
 }
 
 } // namespace
@@ -87,13 +87,12 @@ void ZukenConverter::WriteSurfaceGraphics(const Surface& surface, io::CBlock& bl
     const SurfaceLoop& outline = surface.outline;
     geom::Circle circle = k_NoCircle;
     const bool isCircle = outline.polygon.IsCircle(k_NoCircle.GetEpsilon(), &circle);
-    io::CBlock_func graphics(keyword::k_Graphics);
+    io::CBlock_open_func graphics(block, keyword::k_Graphics);
     graphics << surface.layer;
     if (isCircle)
-        graphics << MakeCircle(TakeId(), outline.halfWidth, circle);
+        AppendCircle_T(TakeId(), outline.halfWidth, circle, graphics);
     else
-        graphics << MakeClosedPolygon(TakeId(), outline);
-    block << graphics;
+        AppendClosedPolygon(TakeId(), outline, graphics);
 }
 
 /// A surface with voids is never a circle in the file: it gets corners. Its id comes ahead of those of its voids.
@@ -102,20 +101,19 @@ void ZukenConverter::WriteSurfaceWithVoids(const Surface& surface, io::CBlock& b
     geom::Circle circle = k_NoCircle;
     if (polygon.IsCircle(polygon.GetEpsilon(), &circle))
         polygon = MakeCornered(circle);
-    io::CBlockPtr surfaceBlock(keyword::k_PolygonWithVoids);
-    *surfaceBlock << io::CBlock_named_value(keyword::k_Layer, surface.layer);
-    *surfaceBlock << MakePolygon(TakeId(), surface.outline.halfWidth, polygon.GetArcs());
-    io::CBlockPtr voids(keyword::k_Voids);
-    for (const SurfaceLoop& loop : surface.voids)
-        *voids << MakeVoid(TakeId(), loop);
-    *surfaceBlock << voids;
+    io::CBlock surfaceBlock(keyword::k_PolygonWithVoids);
+    surfaceBlock << io::CBlock_named_value(keyword::k_Layer, surface.layer);
+    AppendPolygon(TakeId(), surface.outline.halfWidth, polygon.GetArcs(), surfaceBlock);
+    const auto write = [this, &surface](
+                           size_t index, io::CBlock& items) { AppendVoid(TakeId(), surface.voids[index], items); };
+    surfaceBlock << io::CBlockDeferredPtr(new io::CBlock_deferred(keyword::k_Voids, surface.voids.size(), write));
     block << surfaceBlock;
 }
 
 void ZukenConverter::WriteTraceGraphics(const Trace& trace, io::CBlock& block) {
     if (trace.vertices.empty())
         return;
-    io::CBlock_func graphics(keyword::k_Graphics);
-    graphics << trace.layer << MakePath(TakeId(), trace.vertices);
-    block << graphics;
+    io::CBlock_open_func graphics(block, keyword::k_Graphics);
+    graphics << trace.layer;
+    AppendPath(TakeId(), trace.vertices, graphics);
 }

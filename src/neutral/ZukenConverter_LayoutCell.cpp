@@ -1,5 +1,6 @@
 #include "neutral/Keywords.h"
 #include "neutral/OutlineFuncs.h"
+#include "neutral/RecordBlock_T.h"
 #include "neutral/ThermalVoids.h"
 #include "neutral/ZukenConverter.h"
 
@@ -46,23 +47,25 @@ io::CBlock MakeNet(const Net& net) {
     return block;
 }
 
-io::CBlock_func MakePinInst(const ComponentPin& pin) {
-    io::CBlock_func func(keyword::k_FpPinInst);
+void WritePinInst(const ComponentPin& pin, io::CBlock& block) {
+    io::CBlock_open_func func(block, keyword::k_FpPinInst);
     func << pin.name;
     AppendRemovedThermalVoids_G(pin.noConnectLayers, func);
-    return func;
 }
 
-io::CBlock MakeLayoutComp(const Component& component) {
-    io::CBlock_func inst(keyword::k_LayoutCompInst);
+void WriteCompInst(const Component& component, io::CBlock& block) {
+    io::CBlock_open_func inst(block, keyword::k_LayoutCompInst);
     inst << component.layerName << component.footprint->name << component.name;
     AppendPoint_G(component.location, inst);
     inst << component.angle << component.mirrored;
+}
+
+io::CBlock MakeLayoutComp(const Component& component) {
     io::CBlock block(keyword::k_LayoutComp);
-    block << inst;
+    WriteCompInst(component, block);
     for (const ComponentPin& pin : component.pins)
         if (!pin.noConnectLayers.empty())
-            block << MakePinInst(pin);
+            WritePinInst(pin, block);
     return block;
 }
 
@@ -80,19 +83,21 @@ bool ZukenConverter::WriteLayoutCell(
 }
 
 void ZukenConverter::WriteNetlist(const Components& components, const Nets& nets, io::CBlock& layoutCell) {
-    io::CBlockPtr netlist(keyword::k_Netlist);
-    for (const Component* component : components)
-        *netlist << MakeCompInst(*component);
-    for (const Net* net : nets)
-        *netlist << MakeNet(*net);
-    layoutCell << netlist;
+    const auto write = [components, nets](size_t index, io::CBlock& items) {
+        if (index < components.size())
+            items << MakeCompInst(*components[index]);
+        else
+            items << MakeNet(*nets[index - components.size()]);
+    };
+    const size_t count = components.size() + nets.size();
+    layoutCell << io::CBlockDeferredPtr(new io::CBlock_deferred(keyword::k_Netlist, count, write));
 }
 
 bool ZukenConverter::WriteLayoutComponents(const Components& components, io::CBlock& layout) {
-    io::CBlockPtr block(keyword::k_LayoutComponents);
-    for (const Component* component : components)
-        if (component->footprint != nullptr)
-            *block << MakeLayoutComp(*component);
-    layout << block;
+    const auto write = [](const Component& component, io::CBlock& items) {
+        if (component.footprint != nullptr)
+            items << MakeLayoutComp(component);
+    };
+    layout << MakeRecordBlock_T(keyword::k_LayoutComponents, components, write);
     return true;
 }

@@ -9,68 +9,65 @@
 
 namespace {
 
-io::CBlock_func MakeCircle(double diameter) {
-    io::CBlock_func circle(keyword::k_Circle);
+void AppendCircle(double diameter, io::CBlock_open_func& func) {
+    io::CBlock_open_func circle(func, keyword::k_Circle);
     circle << diameter;
-    return circle;
 }
 
 /// The pad that a padstack names where it has no pad on a layer. Its diameter is a whole number.
-io::CBlock_func MakeNullPad() {
-    io::CBlock_func circle(keyword::k_Circle);
+void WriteNullPad(io::CBlock& block) {
+    io::CBlock_open_func nullPad(block, keyword::k_NullPad);
+    io::CBlock_open_func circle(nullPad, keyword::k_Circle);
     circle << 0;
-    io::CBlock_func nullPad(keyword::k_NullPad);
-    nullPad << circle;
-    return nullPad;
 }
 
 /// Angle and offsets have no place in a shape; the offsets go into the padstack.
-io::CBlock_func MakeRectangle(const PadRectangle& pad) {
-    io::CBlock_func rectangle(keyword::k_Rectangle);
+void AppendRectangle(const PadRectangle& pad, io::CBlock_open_func& func) {
+    io::CBlock_open_func rectangle(func, keyword::k_Rectangle);
     rectangle << pad.width << pad.height;
-    return rectangle;
 }
 
 /// An obround has full round ends here, whatever its corner radius.
-io::CBlock_func MakeObround(const PadObround& pad) {
-    io::CBlock_func obround(keyword::k_Obround);
+void AppendObround(const PadObround& pad, io::CBlock_open_func& func) {
+    io::CBlock_open_func obround(func, keyword::k_Obround);
     obround << pad.width << pad.height << pad.height * 0.5;
-    return obround;
 }
 
-io::CBlock_func MakePolygon(const geom::Polygon& polygon) {
+void AppendPolygon(const geom::Polygon& polygon, io::CBlock_open_func& func) {
     geom::Circle circle(geom::k_Origin, 0);
-    if (polygon.IsCircle(polygon.GetEpsilon(), &circle))
-        return MakeCircle(static_cast<double>(circle.GetRadius()) * 2.0);
-    io::CBlock_func func(keyword::k_Polygon);
-    AppendPieces_G(polygon.GetArcs(), keyword::k_Vertex, func);
-    return func;
+    if (polygon.IsCircle(polygon.GetEpsilon(), &circle)) {
+        AppendCircle(static_cast<double>(circle.GetRadius()) * 2.0, func);
+        return;
+    }
+    io::CBlock_open_func polygonFunc(func, keyword::k_Polygon);
+    AppendPieces_G(polygon.GetArcs(), keyword::k_Vertex, polygonFunc);
 }
 
 /// A pad of several outlines has no form in the file: its name stands alone. Of a thermal relief only the outer circle
 /// has one.
-io::CBlock_func MakePad(const BasePad& pad) {
-    io::CBlock_func func(pad.name);
+void WritePad(const BasePad& pad, io::CBlock& block) {
+    io::CBlock_open_func func(block, pad.name);
     if (const auto* circle = dynamic_cast<const PadCircle*>(&pad))
-        func << MakeCircle(circle->diameter);
+        AppendCircle(circle->diameter, func);
     else if (const auto* rectangle = dynamic_cast<const PadRectangle*>(&pad))
-        func << MakeRectangle(*rectangle);
+        AppendRectangle(*rectangle, func);
     else if (const auto* obround = dynamic_cast<const PadObround*>(&pad))
-        func << MakeObround(*obround);
+        AppendObround(*obround, func);
     else if (const auto* polygon = dynamic_cast<const PadPolygon*>(&pad))
-        func << MakePolygon(polygon->polygon);
+        AppendPolygon(polygon->polygon, func);
     else if (const auto* thermal = dynamic_cast<const PadRoundThermal*>(&pad))
-        func << MakeCircle(thermal->outerRadius * 2.0);
-    return func;
+        AppendCircle(thermal->outerRadius * 2.0, func);
 }
 
 } // namespace
 
 bool ZukenConverter::WritePadShapes(const Pads& pads, io::CBlock& root) {
-    io::CBlockPtr block(keyword::k_PadShapes);
-    *block << MakeNullPad();
-    for (const BasePad* pad : pads)
-        *block << MakePad(*pad);
-    root << block;
+    const auto write = [pads](size_t index, io::CBlock& items) {
+        if (index == 0)
+            WriteNullPad(items);
+        else
+            WritePad(*pads[index - 1], items);
+    };
+    root << io::CBlockDeferredPtr(new io::CBlock_deferred(keyword::k_PadShapes, pads.size() + 1, write));
     return true;
 }

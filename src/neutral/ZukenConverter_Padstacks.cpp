@@ -1,4 +1,5 @@
 #include "neutral/Keywords.h"
+#include "neutral/RecordBlock_T.h"
 #include "neutral/ZukenConverter.h"
 
 namespace {
@@ -55,10 +56,9 @@ io::CBlock MakePadstack(const Padstack& padstack, const std::vector<Layer*>& lay
 } // namespace
 
 bool ZukenConverter::WritePadstacks(const Padstacks& padstacks, const Layers& layers, io::CBlock& root) {
-    io::CBlockPtr block(keyword::k_Padstacks);
-    const size_t top = FindTop(layers);
-    for (const Padstack* padstack : padstacks)
-        *block << MakePadstack(*padstack, layers, top);
-    root << block;
+    const auto write = [layers, top = FindTop(layers)](const Padstack& padstack, io::CBlock& items) {
+        items << MakePadstack(padstack, layers, top);
+    };
+    root << MakeRecordBlock_T(keyword::k_Padstacks, padstacks, write);
     return true;
 }

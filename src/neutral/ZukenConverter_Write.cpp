@@ -9,7 +9,7 @@ bool ZukenConverter::Write(ZukenPCBParser& parser) {
     return false;
 }
 
-/// The whole tree is built before anything of it is written.
+/// The items of the large sections are made while they are written, in the order of the file.
 void ZukenConverter::WriteText(ZukenPCBParser& parser, io::CAbstract_ostream& stream) {
     io::CBlock root(keyword::k_QuorelNeutralFile);
     WriteHeader(parser, root);
@@ -54,7 +54,6 @@ void ZukenConverter::NameNamelessNets(const Nets& nets) {
             net->name = Net::k_NoNet;
 }
 
-/// Large blocks go into their parents by reference: a copy would cost the memory of the whole layout once more.
 void ZukenConverter::WriteLayoutData(
     const Components& components, const Nets& nets, const Layers& layers, io::CBlock& root) {
     io::CBlockPtr layoutData(keyword::k_LayoutData);

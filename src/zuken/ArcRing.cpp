@@ -1,5 +1,7 @@
 #include "zuken/ArcRing.h"
 
+#include <algorithm>
+#include <bit>
 #include <functional>
 
 namespace {
@@ -7,31 +9,51 @@ namespace {
 /// Room between the orders of two neighbours, for arcs that come between them.
 constexpr int64_t k_OrderStep = int64_t{1} << 20;
 
+constexpr size_t k_FewestSlots = 16;
+constexpr size_t k_SlotsPerStart = 2; ///< at least: a search then ends after a slot or two
+
+size_t HashOf(geom::Point point) {
+    constexpr size_t k_Spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio: neighbours end far apart
+    const std::hash<double> hash;
+    const size_t mixed = (hash(double(point.GetX())) * k_Spread) ^ hash(double(point.GetY()));
+    return (mixed * k_Spread) >> 32;
+}
+
 } // namespace
 
 /// Entered from the end, each arc comes ahead of all that have its start.
-ArcRing::ArcRing(const std::vector<geom::Arc>& arcs) {
+ArcRing::ArcRing(const std::vector<geom::Arc>& arcs, size_t corners) {
     const auto count = static_cast<Index>(arcs.size());
     if (count == 0)
         return;
     m_First = 0;
+    m_Nodes.reserve(count + 2 * corners);
     m_Nodes.resize(count);
-    m_ByStart.reserve(count);
+    GrowStarts((count + corners) * k_SlotsPerStart);
     for (Index i = count; i-- > 0;) {
         m_Nodes[i] = {arcs[i], i == 0 ? count - 1 : i - 1, i + 1 == count ? 0 : i + 1, k_None, i * k_OrderStep};
         EnterStart(i);
     }
 }
 
-size_t ArcRing::PointHash::operator()(geom::Point point) const {
-    constexpr size_t k_Spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio: neighbours end far apart
-    const std::hash<double> hash;
-    return (hash(double(point.GetX())) * k_Spread) ^ hash(double(point.GetY()));
+ArcRing::Index ArcRing::FindByStart(geom::Point start) const {
+    return m_Starts.empty() ? k_None : m_Starts[FindSlot(start)].m_First;
 }
 
-ArcRing::Index ArcRing::FindByStart(geom::Point start) const {
-    const auto found = m_ByStart.find(start);
-    return found == m_ByStart.end() ? k_None : found->second;
+/// The slot of the start, or the free one in which it would stand.
+size_t ArcRing::FindSlot(geom::Point start) const {
+    size_t slot = HashOf(start) & (m_Starts.size() - 1);
+    while (m_Starts[slot].m_Bringer != k_None && m_Nodes[m_Starts[slot].m_Bringer].m_Arc.GetStart() != start)
+        slot = (slot + 1) & (m_Starts.size() - 1);
+    return slot;
+}
+
+void ArcRing::GrowStarts(size_t slots) {
+    std::vector<Start> old(std::bit_ceil(std::max(slots, k_FewestSlots)));
+    old.swap(m_Starts);
+    for (const Start& start : old)
+        if (start.m_Bringer != k_None)
+            m_Starts[FindSlot(m_Nodes[start.m_Bringer].m_Arc.GetStart())] = start;
 }
 
 void ArcRing::ReplaceCorner(Index index, const geom::Arc& before, const geom::Arc& rounding, const geom::Arc* after) {
@@ -109,24 +131,29 @@ void ArcRing::SpreadOrder() {
     } while (index != m_First);
 }
 
+/// A start that isn't a number is never found.
 void ArcRing::EnterStart(Index index) {
     Node& node = m_Nodes[index];
-    Index* link = &m_ByStart.try_emplace(node.m_Arc.GetStart(), k_None).first->second;
+    if (node.m_Arc.GetStart() != node.m_Arc.GetStart())
+        return;
+    if (m_StartCount * k_SlotsPerStart >= m_Starts.size())
+        GrowStarts(2 * m_Starts.size());
+    Start& start = m_Starts[FindSlot(node.m_Arc.GetStart())];
+    if (start.m_Bringer == k_None) {
+        start.m_Bringer = index;
+        ++m_StartCount;
+    }
+    Index* link = &start.m_First;
     while (*link != k_None && m_Nodes[*link].m_Order < node.m_Order)
         link = &m_Nodes[*link].m_NextOfSameStart;
     node.m_NextOfSameStart = *link;
     *link = index;
 }
 
-/// A start that isn't a number is never found, and stays.
 void ArcRing::LeaveStart(Index index) {
-    const auto found = m_ByStart.find(m_Nodes[index].m_Arc.GetStart());
-    if (found == m_ByStart.end())
-        return;
-    Index* link = &found->second;
-    while (*link != index)
+    Index* link = &m_Starts[FindSlot(m_Nodes[index].m_Arc.GetStart())].m_First;
+    while (*link != k_None && *link != index)
         link = &m_Nodes[*link].m_NextOfSameStart;
-    *link = m_Nodes[index].m_NextOfSameStart;
-    if (found->second == k_None)
-        m_ByStart.erase(found);
+    if (*link == index)
+        *link = m_Nodes[index].m_NextOfSameStart;
 }

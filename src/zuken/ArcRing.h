@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <unordered_map>
 #include <vector>
 
 /// A list of arcs that is taken as cyclic, and in which corners are rounded.
@@ -18,8 +17,8 @@ public:
     using Index = uint32_t;
     static constexpr Index k_None = UINT32_MAX;
 
-    /// At most 2^31 arcs.
-    explicit ArcRing(const std::vector<geom::Arc>& arcs);
+    /// At most 2^30 arcs, of which about `corners` are to be replaced.
+    explicit ArcRing(const std::vector<geom::Arc>& arcs, size_t corners = 0);
 
     const geom::Arc& operator[](Index index) const { return m_Nodes[index].m_Arc; }
     /// The arc ahead of the first is the last. A single arc is its own neighbour.
@@ -46,8 +45,11 @@ private:
         Index m_NextOfSameStart = k_None;
         int64_t m_Order = 0; ///< grows along the list
     };
-    struct PointHash {
-        size_t operator()(geom::Point point) const;
+    /// A start, and the arcs of the list that have it. An arc's start never changes, so that a start is known by the
+    /// first arc that brought it, also when that has left.
+    struct Start {
+        Index m_Bringer = k_None; ///< none: nobody uses this slot
+        Index m_First = k_None;   ///< of the list
     };
 
     Index InsertBehind(Index index, const geom::Arc& arc);
@@ -57,10 +59,13 @@ private:
     void SpreadOrder();
     void EnterStart(Index index);
     void LeaveStart(Index index);
+    size_t FindSlot(geom::Point start) const;
+    void GrowStarts(size_t slots);
 
     std::vector<Node> m_Nodes;
     Index m_First = k_None;
-    std::unordered_map<geom::Point, Index, PointHash> m_ByStart; ///< the first arc of the list for each start
+    std::vector<Start> m_Starts; ///< a hash table with open addressing: a start stands in its slot or one of the next
+    size_t m_StartCount = 0;
 };
 
 #endif

@@ -1,30 +1,21 @@
 #include "zuken/ListValues.h"
 
-#include "blocks/FuncRange.h"
-
 namespace {
 
-/// The value that the first child of that name begins with, or the value of nothing. Makes no list of its own, as half
-/// of the questions concern what isn't there.
+/// The value that the first child of that name begins with, or the value of nothing.
 template <class T>
 T ReadChild_T(const io::CBlock_func& list, const char* name) {
     T value{};
-    for (io::CBlock_func& child : list.Funcs()) {
-        if (!child.NameIs(name))
-            continue;
-        child >> value;
-        break;
-    }
+    if (const std::optional<io::TreeView> child = list.FindFunc(name))
+        io::CBlock_func(*child) >> value;
     return value;
 }
 
 } // namespace
 
 io::CBlock_func GetChild_G(const io::CBlock_func& list, const char* name) {
-    for (const io::CBlock_func& child : list.Funcs())
-        if (child.NameIs(name))
-            return child;
-    return io::CBlock_func(name);
+    const std::optional<io::TreeView> child = list.FindFunc(name);
+    return child ? io::CBlock_func(*child) : io::CBlock_func(name);
 }
 
 bool FindChild_G(const io::CBlock_func& list, io::CBlock_func& query) {

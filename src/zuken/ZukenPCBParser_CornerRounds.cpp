@@ -31,7 +31,7 @@ PathVertex MakeVertex(geom::Point point, geom::Unit height, double width) {
 
 void ZukenPCBParser::ApplyCornerRounds(
     std::vector<PathVertex>& vertices, const std::vector<CornerRound>& rounds, double width) {
-    ArcRing arcs(GetPieces(vertices));
+    ArcRing arcs(GetPieces(vertices), rounds.size());
     for (const CornerRound& round : rounds)
         RoundCorner(arcs, geom::Point(round.x, round.y), round.radius);
     vertices.clear();

@@ -48,7 +48,7 @@ private:
         m_Last = point;
     }
     void RoundCorners() {
-        ArcRing arcs(m_Pieces);
+        ArcRing arcs(m_Pieces, m_Rounds.size());
         for (const auto& [corner, radius] : m_Rounds)
             ZukenPCBParser::RoundCorner(arcs, geom::Point(corner.first, corner.second), radius);
         m_Pieces = arcs.GetArcs();

@@ -57,6 +57,26 @@ TEST(AStringTest, ACopyDoesNotSeeLaterChanges) {
     EXPECT_EQ(assigned.QRL_ANSI(), "abc");
 }
 
+TEST(AStringTest, AReferenceToAUnitReachesItsTextAlone) {
+    AString text("abc");
+    const AString before = text;
+    char16_t& unit = text[0];
+    const AString behind = text;
+    EXPECT_EQ(text.QRL_ANSI(), "abc");
+    unit = u'Z';
+    EXPECT_EQ(text.QRL_ANSI(), "Zbc");
+    EXPECT_EQ(before.QRL_ANSI(), "abc");
+    EXPECT_EQ(behind.QRL_ANSI(), "abc");
+}
+
+TEST(AStringTest, CopiesShareOneNarrowText) {
+    const AString text("a text that a copy would have to make anew");
+    const AString copy = text;
+    EXPECT_EQ(text.GetNarrow(), "a text that a copy would have to make anew");
+    EXPECT_EQ(copy.GetNarrow().data(), text.GetNarrow().data());
+    EXPECT_EQ(AString().GetNarrow(), "");
+}
+
 TEST(AStringTest, SizeCountsUnits) {
     const AString text("A\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80");
     EXPECT_EQ(text.size(), 5U);

@@ -11,6 +11,9 @@ import unittest
 
 TIMEOUT_SECONDS = 120
 NOBODY = 65534
+# A program that counts for coverage writes its counts into the build folder as it ends. Where it may not, or where its writes
+# are made to fail, it says so on standard error and leaves counts that nobody can read.
+COUNTS_COVERAGE = os.environ.get("COVERAGE") == "ON"
 
 # A trace lies on these boards, so that they have an outline.
 BOARD = b"""(pcf board
@@ -164,6 +167,8 @@ def unprivileged():
 
 
 def can_drop_privileges():
+    if COUNTS_COVERAGE:
+        return False
     try:
         return subprocess.run(["true"], check=False, **unprivileged()).returncode == 0
     except (OSError, subprocess.SubprocessError):

@@ -10,13 +10,15 @@ namespace {
 std::string WriteTrace(const std::vector<PathVertex>& vertices) {
     const Trace trace(vertices, "L1", nullptr);
     io::CBlock root("R");
-    SectionConverter().WriteTraceGraphics(trace, root);
+    ZukenConverter converter = SectionConverter();
+    converter.WriteTraceGraphics(trace, root);
     return TextOf(root);
 }
 
 std::string WriteSurface(const Surface& surface) {
     io::CBlock root("R");
-    SectionConverter().WriteSurfaceGraphics(surface, root);
+    ZukenConverter converter = SectionConverter();
+    converter.WriteSurfaceGraphics(surface, root);
     return TextOf(root);
 }
 

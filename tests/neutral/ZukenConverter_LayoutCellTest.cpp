@@ -99,7 +99,8 @@ TEST_F(ZukenConverter_LayoutCellTest, NetPinsAreInTheOrderOfText) {
 TEST_F(ZukenConverter_LayoutCellTest, ANetWithoutPinsIsInNetlistAndLayoutNets) {
     Net net("GND");
     io::CBlock cell("LayoutCell");
-    EXPECT_TRUE(SectionConverter().WriteLayoutCell({}, {&net}, {}, cell));
+    ZukenConverter converter = SectionConverter();
+    EXPECT_TRUE(converter.WriteLayoutCell({}, {&net}, {}, cell));
     EXPECT_EQ(TextOf(cell), R"(LayoutCell {
 	Netlist {
 		Net {

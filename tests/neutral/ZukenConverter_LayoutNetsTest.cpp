@@ -6,7 +6,8 @@ namespace {
 
 std::string Write(const std::vector<Net*>& nets) {
     io::CBlock root("R");
-    SectionConverter().WriteLayoutNets(nets, root);
+    ZukenConverter converter = SectionConverter();
+    converter.WriteLayoutNets(nets, root);
     return TextOf(root);
 }
 

@@ -131,7 +131,8 @@ TEST(ZukenConverter_WriteTest, BothStackupsAreEqualAndNumberDielectricsFromOne) 
     Layer top("Conductive_1", 1, Layer::k_Conductive, 0.0);
     Layer plane("Conductive_2", 2, Layer::k_Plane, 0.0);
     io::CBlock root("R");
-    SectionConverter().WriteLayoutData({}, {}, {&top, &plane}, root);
+    ZukenConverter converter = SectionConverter();
+    converter.WriteLayoutData({}, {}, {&top, &plane}, root);
     EXPECT_EQ(TextOf(root), R"(R {
 	LayoutData {
 		LayoutCell {

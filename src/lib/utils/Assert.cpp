@@ -35,3 +35,10 @@ base::AssertReceiver base::SetAssertReceiver(AssertReceiver receiver) {
 }
 
 unsigned long base::GetLoggedAssertFailures() { return g_LoggedFailures; }
+
+void base::HandleAssertFailure(const char* file, int line, const char* expression, bool& ignoreThis) noexcept {
+    if (!ignoreThis && !IgnoreAllAsserts_G)
+        ProcessAssertFailure_G(file, line, expression, ignoreThis);
+    else
+        LogAssertFailure_G(file, line, expression);
+}

@@ -30,6 +30,9 @@ AssertReceiver SetAssertReceiver(AssertReceiver receiver);
 /// How many failures LogAssertFailure_G has counted since the start of the program.
 unsigned long GetLoggedAssertFailures();
 
+/// What a failed assertion does: it is reported, or only counted where its site or all of them are to be ignored.
+void HandleAssertFailure(const char* file, int line, const char* expression, bool& ignoreThis) noexcept;
+
 } // namespace base
 
 /// Checks `condition`. `file` is the source file that the report names, `text` the condition as it is to be reported.
@@ -37,12 +40,8 @@ unsigned long GetLoggedAssertFailures();
 #define QRL_ASSERT(file, text, condition)                                                                              \
     do {                                                                                                               \
         static bool ignoreThis = false;                                                                                \
-        if (!(condition)) [[unlikely]] {                                                                               \
-            if (!ignoreThis && !IgnoreAllAsserts_G)                                                                    \
-                ProcessAssertFailure_G(file, __LINE__, text, ignoreThis);                                              \
-            else                                                                                                       \
-                LogAssertFailure_G(file, __LINE__, text);                                                              \
-        }                                                                                                              \
+        if (!(condition)) [[unlikely]]                                                                                 \
+            base::HandleAssertFailure(file, __LINE__, text, ignoreThis);                                               \
     } while (false)
 
 #endif

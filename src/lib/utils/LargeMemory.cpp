@@ -6,6 +6,7 @@
 #include <cstring>
 #include <new>
 #include <sys/mman.h>
+#include <utility>
 
 namespace base {
 
@@ -14,6 +15,38 @@ namespace {
 constexpr size_t k_HugePage = size_t{2} * 1024 * 1024;
 
 size_t ToPages(size_t size) { return (size + k_HugePage - 1) / k_HugePage * k_HugePage; }
+
+/// A piece that was given back and waits for its next use. It describes itself, so that giving back never fails.
+struct Kept {
+    Kept* m_Next;
+    size_t m_Size;
+};
+
+Kept* kept = nullptr;
+
+void Keep(void* memory, size_t pages) { kept = new (memory) Kept{kept, pages}; }
+
+/// Takes the piece or the end of a larger one. Null when none is large enough.
+void* TakeKept(size_t pages) {
+    for (Kept** link = &kept; *link != nullptr; link = &(*link)->m_Next) {
+        Kept* piece = *link;
+        if (piece->m_Size < pages)
+            continue;
+        piece->m_Size -= pages;
+        if (piece->m_Size == 0)
+            *link = piece->m_Next;
+        return reinterpret_cast<char*>(piece) + piece->m_Size;
+    }
+    return nullptr;
+}
+
+/// Gives everything that waits back to the system.
+void DropKept() {
+    while (kept != nullptr) {
+        Kept* piece = std::exchange(kept, kept->m_Next);
+        munmap(piece, piece->m_Size);
+    }
+}
 
 /// Asks for one huge page more, and gives back what lies outside of the whole huge pages within.
 void* MapPages(size_t size) {
@@ -31,7 +64,16 @@ void* MapPages(size_t size) {
     return first + head;
 }
 
-void* TryAllocate(size_t size) { return size >= k_LargeSize ? MapPages(size) : std::malloc(size); }
+void* TryAllocate(size_t size) {
+    if (size < k_LargeSize)
+        return std::malloc(size);
+    if (void* piece = TakeKept(ToPages(size)))
+        return piece;
+    if (void* piece = MapPages(size))
+        return piece;
+    DropKept();
+    return MapPages(size);
+}
 
 void* TryRemapPages(void* memory, size_t oldSize, size_t newSize) {
     void* resized = mremap(memory, ToPages(oldSize), ToPages(newSize), MREMAP_MAYMOVE);
@@ -74,7 +116,7 @@ void* TryResizeLarge(void* memory, size_t oldSize, size_t newSize) noexcept {
 
 void FreeLarge(void* memory, size_t size) noexcept {
     if (size >= k_LargeSize)
-        munmap(memory, ToPages(size));
+        Keep(memory, ToPages(size));
     else
         std::free(memory);
 }

@@ -9,7 +9,8 @@ namespace base {
 //
 // From `k_LargeSize` on it comes from the system itself, in huge pages where there are any: touching a small page for
 // the first time costs as much as reading the text that goes into it. What is never touched costs nothing, so a large
-// piece can be asked for on a guess. `std::bad_alloc` when there is no memory.
+// piece can be asked for on a guess. What was given back is handed out again before more is asked for. `std::bad_alloc`
+// when there is no memory. Not for use by several threads.
 
 inline constexpr size_t k_LargeSize = size_t{4} * 1024 * 1024;
 

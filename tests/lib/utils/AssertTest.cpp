@@ -34,6 +34,13 @@ TEST(AssertTest, EverySiteReportsOnceAndIsCountedAfterwards) {
     EXPECT_EQ(base::GetLoggedAssertFailures() - before, 2U);
 }
 
+TEST(AssertTest, AFileThatIsNamedWithoutAFolderIsReportedAsItIs) {
+    testing::internal::CaptureStderr();
+    QRL_ASSERT("Plain", "false", false);
+    EXPECT_THAT(
+        testing::internal::GetCapturedStderr(), testing::MatchesRegex("Assertion failed: false, Plain:[0-9]+\n"));
+}
+
 TEST(AssertTest, TheGlobalSwitchSilencesAllSites) {
     const unsigned long before = base::GetLoggedAssertFailures();
     AssertionRecorder recorder;

@@ -18,9 +18,8 @@ constexpr double k_DistanceTolerance = 1e-10;
 /// How far from the bisector of the chord, in chords, a centre may lie without a report.
 constexpr double k_CenterTolerance = 0.333;
 
+/// For distances, which are finite: what lies farther away than `k_InfiniteUnit` counts as that far.
 bool IsClose(Unit a, Unit b) {
-    if (!std::isfinite(double(a)) || !std::isfinite(double(b)))
-        return false;
     return (a - b).GetAbs() <= std::max(a.GetAbs(), b.GetAbs()) * k_DistanceTolerance;
 }
 

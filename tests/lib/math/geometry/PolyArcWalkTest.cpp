@@ -128,6 +128,7 @@ TEST(PolyArcWalkTest, IteratorInNoChainIsReported) {
     PolyArc::Iterator none;
     EXPECT_EQ(none, PolyArc::Iterator());
     EXPECT_FALSE(none == PolyArc().end());
+    EXPECT_FALSE(PolyArc().end() == none);
     const AssertionRecorder assertions;
     EXPECT_EQ(*none, Arc());
     EXPECT_EQ(++none, PolyArc::Iterator());
