@@ -80,7 +80,8 @@ class FaultCase(ProgramCase):
 
     @classmethod
     def tearDownClass(cls):
-        print(f"\n{cls.__name__}: {cls.injected} faults injected", file=sys.stderr)
+        if cls.injected:
+            print(f"\n{cls.__name__}: {cls.injected} faults injected", file=sys.stderr)
 
     def inputs(self):
         return {b"board.pcf": self.board.pcf, b"board.ftf": self.board.ftf, b"board.txt": self.board.txt}
