@@ -29,17 +29,23 @@ public:
     void Commit();
     bool HasFailed() const { return m_State == State::k_Failed; }
 
+    /// Removes the temporary files of all outputs that are being written. Asks for no memory: it is for a run that has
+    /// none left and ends where it stands. The outputs must not be used any more.
+    static void DiscardAll() noexcept;
+
 private:
     enum class State { k_Untouched, k_Open, k_Done, k_Failed };
 
     bool Open();
     void OpenTemporary();
+    void ForgetTemporary();
     void Fail(int reason);
     void Discard();
 
     std::string m_Name;
     std::string m_Target;    ///< the file behind all links
     std::string m_Temporary; ///< empty when the output is written straight to
+    OutputFile* m_NextTemporary = nullptr;
     int m_Descriptor = -1;
     State m_State = State::k_Untouched;
 };

@@ -365,6 +365,28 @@ TEST(OutputFileTest, AFailureToCommitLeavesNoTemporaryFile) {
     EXPECT_EQ(folder.List(), Names{"out"});
 }
 
+TEST(OutputFileTest, AllThatIsBeingWrittenCanBeRemovedAtOnce) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(ErrorsOf([&] {
+        OutputFile first(folder.PathOf("first"));
+        OutputFile untouched(folder.PathOf("untouched"));
+        OutputFile committed(folder.PathOf("committed"));
+        OutputFile last(folder.PathOf("last"));
+        for (OutputFile* file : {&first, &committed, &last})
+            file->Write("x");
+        {
+            OutputFile gone(folder.PathOf("gone"));
+            gone.Write("x");
+        }
+        committed.Commit();
+        EXPECT_EQ(folder.List().size(), 3U);
+        OutputFile::DiscardAll();
+        EXPECT_EQ(folder.List(), Names{"committed"});
+    }),
+        "");
+    EXPECT_EQ(folder.List(), Names{"committed"});
+}
+
 TEST(OutputFileTest, AFileThatGrowsTooLargeLeavesTheOldOne) {
     const TemporaryFolder folder;
     const std::string path = folder.Put("out", "old");

@@ -74,6 +74,7 @@ AvlNode* AvlNode::UpdateCountsToRoot() {
     return node;
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): as deep as the balanced tree is high
 void AvlNode::MarkAllDirty() {
     QRL_ASSERT("AvlNode", "this->m_SubTreeNodesCount > 0", this->m_SubTreeNodesCount > 0);
     m_IsDirty = true;
@@ -141,6 +142,7 @@ AvlNode* AvlNode::InsertNextTo(AvlNode* node_to_insert, AvlNode* position, bool 
 }
 
 /// Makes the node the first or the last one of a subtree, and returns the root that the subtree has then.
+// NOLINTNEXTLINE(misc-no-recursion): as deep as the balanced tree is high
 AvlNode* AvlNode::InsertAtEdge(AvlNode* root, AvlNode* node_to_insert, bool atLeft, bool& hasGrown) {
     QRL_ASSERT("AvlNode", "root", root);
     AvlNode* left = GetLeft(root);

@@ -107,7 +107,9 @@ private:
     };
 
     FilterCode GetFilterCode(const Node* node) const;
+    // NOLINTNEXTLINE(misc-no-recursion): as deep as the balanced tree is high
     Node* FindFirst(Node* node) const;
+    // NOLINTNEXTLINE(misc-no-recursion): as deep as the balanced tree is high
     Node* FindLast(Node* node) const;
     Node* FindNext(Node* start) const;
 

@@ -83,10 +83,13 @@ void* TryRemapPages(void* memory, size_t oldSize, size_t newSize) {
     return resized;
 }
 
+/// Like operator new, leaves it to the program first what becomes of a run that has no memory.
 void* Checked(void* memory) {
-    if (memory == nullptr)
-        throw std::bad_alloc();
-    return memory;
+    if (memory != nullptr)
+        return memory;
+    if (const std::new_handler handler = std::get_new_handler(); handler != nullptr)
+        handler();
+    throw std::bad_alloc();
 }
 
 } // namespace

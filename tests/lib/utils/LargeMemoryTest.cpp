@@ -35,6 +35,20 @@ struct Piece {
     size_t m_Size;
 };
 
+int g_Calls = 0;
+
+/// Counts the calls of the handler for missing memory for a scope.
+class HandlerScope {
+public:
+    HandlerScope() : m_Before(std::set_new_handler([] { ++g_Calls; })) { g_Calls = 0; }
+    ~HandlerScope() { std::set_new_handler(m_Before); }
+    HandlerScope(const HandlerScope&) = delete;
+    HandlerScope& operator=(const HandlerScope&) = delete;
+
+private:
+    std::new_handler m_Before;
+};
+
 struct SizeChange {
     const char* m_Name;
     size_t m_From;
@@ -124,6 +138,20 @@ TEST(LargeMemoryTest, APieceThatCannotGrowStaysAsItWas) {
         EXPECT_EQ(TryResizeLarge(piece.m_Memory, size, k_BeyondAllMemory), nullptr) << size;
         EXPECT_EQ(piece.At(size - 1), 'x') << size;
     }
+}
+
+TEST(LargeMemoryTest, TheHandlerForMissingMemoryIsCalledAheadOfTheException) {
+    const HandlerScope scope;
+    EXPECT_THROW(AllocateLarge(k_BeyondAllMemory), std::bad_alloc);
+    EXPECT_EQ(g_Calls, 1);
+    EXPECT_THROW(ResizeLarge(nullptr, 0, k_BeyondAllMemory), std::bad_alloc);
+    EXPECT_EQ(g_Calls, 2);
+}
+
+TEST(LargeMemoryTest, ATryDoesNotCallTheHandler) {
+    const HandlerScope scope;
+    EXPECT_EQ(TryResizeLarge(nullptr, 0, k_BeyondAllMemory), nullptr);
+    EXPECT_EQ(g_Calls, 0);
 }
 
 } // namespace

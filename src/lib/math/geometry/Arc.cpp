@@ -100,6 +100,7 @@ bool Arc::IsPoint(Unit accuracy, Point* point) const {
     return IsSegment(accuracy) && GetStartEndSegment().IsPoint(accuracy, point);
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): the circumference asks again without asking for one
 bool Arc::IsCircle(Circumference* circumference) const {
     if (m_Start != m_End)
         return false;
@@ -120,6 +121,7 @@ Direction Arc::GetDirection() const {
     return m_Height > k_Unit_0 ? k_CW : k_NoDirection;
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): IsCircle is not asked for a circumference
 Unit Arc::GetRadius() const {
     const Unit height = m_Height.GetAbs();
     if (IsCircle())
@@ -130,6 +132,7 @@ Unit Arc::GetRadius() const {
     return (GetStartEndSegment().GetLengthSquare() / (height * 4) + height) * 0.5;
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): IsCircle is not asked for a circumference
 Circumference Arc::GetCircumference() const {
     if (IsCircle()) {
         if (m_Height == k_NullUnit)

@@ -71,6 +71,7 @@ bool Circle::IntersectsLine(const Line& line, Unit accuracy) const {
     return m_Radius + accuracy >= line.GetDistanceUpTo(m_Center, k_InfiniteUnit);
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): once with accuracy 0, once with the axes exchanged
 CircleLineResult Circle::GetIntersection(const Line& line, Unit accuracy) const {
     QRL_ASSERT("Circle", "accuracy >= 0", accuracy >= 0);
     if (!IntersectsLine(line, accuracy))
@@ -85,6 +86,7 @@ CircleLineResult Circle::GetIntersection(const Line& line, Unit accuracy) const 
     return GetIntersectionSteep(line, accuracy);
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): the exchanged line is steep
 CircleLineResult Circle::GetIntersectionAcross(const Line& line, Unit accuracy) const {
     const Circle exchanged(WithAxesExchanged(m_Center), m_Radius);
     CircleLineResult result = exchanged.GetIntersection(line.GetWithAxesExchanged(), accuracy);

@@ -38,6 +38,7 @@ ArcPairResult Circumference::GetIntersections(const Circumference& other, Unit a
     return {1, GetPointLikeArc(right), 1, GetPointLikeArc(left)};
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): once, with the sides exchanged
 PointResult Circumference::GetTangentCenter(
     bool side1, const Circumference& other, bool side2, Unit radius, Direction direction) const {
     if (side1 && !side2)

@@ -43,6 +43,7 @@ Unit Between(Unit a, Unit b) { return a == b ? a : (a + b) * 0.5; }
 
 Box Segment::GetBox() const { return Box(*this); }
 
+// NOLINTNEXTLINE(misc-no-recursion): once, reversed
 Point Segment::GetMidPoint() const {
     const bool isDescending =
         m_Start.GetX() > m_End.GetX() || (m_Start.GetX() == m_End.GetX() && m_Start.GetY() > m_End.GetY());
