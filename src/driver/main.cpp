@@ -16,7 +16,7 @@ namespace {
     constexpr std::string_view k_Line = "zuken2qrl: Cannot allocate memory\n";
     [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, k_Line.data(), k_Line.size());
     io::OutputFile::DiscardAll();
-    std::_Exit(EXIT_FAILURE);
+    std::abort();
 }
 
 } // namespace

@@ -7,6 +7,7 @@ import queue
 import re
 import resource
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -17,9 +18,9 @@ WORKERS = 2
 FAILURES_SHOWN = 10
 
 OLD = b"an older output\n" * 100
-# Where memory runs out, the run ends at once, with this line and this status.
+# Where memory runs out, the run ends at once, with this line and as a program without a handler would.
 NO_MEMORY = b"zuken2qrl: Cannot allocate memory\n"
-NO_MEMORY_STATUS = 1
+NO_MEMORY_STATUS = -signal.SIGABRT
 
 
 def can_trace():
