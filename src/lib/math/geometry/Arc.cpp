@@ -19,9 +19,7 @@ constexpr double k_DistanceTolerance = 1e-10;
 constexpr double k_CenterTolerance = 0.333;
 
 /// For distances, which are finite: what lies farther away than `k_InfiniteUnit` counts as that far.
-bool IsClose(Unit a, Unit b) {
-    return (a - b).GetAbs() <= std::max(a.GetAbs(), b.GetAbs()) * k_DistanceTolerance;
-}
+bool IsClose(Unit a, Unit b) { return (a - b).GetAbs() <= std::max(a.GetAbs(), b.GetAbs()) * k_DistanceTolerance; }
 
 } // namespace
 
