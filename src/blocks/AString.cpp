@@ -172,13 +172,11 @@ std::u16string AString::GetFolded() const {
 void AString::replace(size_t pos, size_t count, const AString& text) {
     if (pos > size())
         return;
-    // It may be this text itself.
-    const AString inserted = text;
     if (empty()) {
-        *this = inserted;
+        *this = text;
         return;
     }
-    ChangeUnits().replace(pos, count, inserted.GetUnits());
+    ChangeUnits().replace(pos, count, text.GetUnits());
     if (m_Text->m_Units.empty())
         *this = AString();
 }

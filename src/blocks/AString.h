@@ -23,11 +23,16 @@ public:
     AString() = default;
     AString(const AString& other) : m_Text(other.Share()) {}
     AString(AString&& other) noexcept : m_Text(std::exchange(other.m_Text, nullptr)) {}
-    AString& operator=(AString other) noexcept {
+    AString& operator=(const AString& other) {
+        AString share(other);
+        std::swap(m_Text, share.m_Text);
+        return *this;
+    }
+    AString& operator=(AString&& other) noexcept {
         std::swap(m_Text, other.m_Text);
         return *this;
     }
-    ~AString() { Release(m_Text); }
+    ~AString() { Release(m_Text); } // NOLINT(clang-analyzer-cplusplus.NewDelete): it doesn't follow the count
     AString(const char* narrow) : AString(std::string_view(narrow)) {} // NOLINT(google-explicit-constructor)
     AString(const wchar_t* wide);                                      // NOLINT(google-explicit-constructor)
     /// Widens `narrow`, which may hold any bytes, NUL included.

@@ -101,13 +101,13 @@ void NeutralWriter::Enter(const CBlock_deferred& block, size_t depth) {
 }
 
 /// What stands by reference is written as if it stood here.
-void NeutralWriter::EnterReference(const CStreamio_object* target, size_t depth) {
-    if (const auto* func = dynamic_cast<const CBlock_func*>(target))
+void NeutralWriter::EnterReference(const CStreamio_object& target, size_t depth) {
+    if (const auto* func = dynamic_cast<const CBlock_func*>(&target))
         Enter(func->GetTree().GetRoot(), func->GetTree().GetEnd(), depth);
-    else if (const auto* block = dynamic_cast<const CBlock*>(target))
+    else if (const auto* block = dynamic_cast<const CBlock*>(&target))
         Enter(block->GetTree().GetRoot(), block->GetTree().GetEnd(), depth);
     else
-        Enter(static_cast<const CBlock_deferred&>(*target), depth);
+        Enter(static_cast<const CBlock_deferred&>(target), depth);
 }
 
 /// Has the next items of a deferred block made, in place of those that have been written.
@@ -145,7 +145,7 @@ void NeutralWriter::WriteItem(Frame& block) {
     block.m_Next = item.GetNext();
     PutLineStart(depth);
     if (item.GetKind() == NodeKind::k_Reference) {
-        EnterReference(item.GetReference(), depth);
+        EnterReference(*item.GetReference(), depth);
     } else if (item.GetKind() == NodeKind::k_NamedValue) {
         const Node& value = *item.GetFirstChild();
         PutNamedValue(item.GetText(), value, NodeValue(value).GetText());
@@ -173,7 +173,7 @@ void NeutralWriter::WriteFuncArgument(Frame& func) {
     func.m_IsBroken = !isOnly;
     const size_t depth = StartArgument(func);
     if (argument.GetKind() == NodeKind::k_Reference)
-        EnterReference(argument.GetReference(), depth);
+        EnterReference(*argument.GetReference(), depth);
     else
         Enter(&argument, argument.GetNext(), depth);
 }

@@ -58,7 +58,7 @@ private:
     void WriteFrames();
     void Enter(const Node* node, const Node* end, size_t depth);
     void Enter(const CBlock_deferred& block, size_t depth);
-    void EnterReference(const CStreamio_object* target, size_t depth);
+    void EnterReference(const CStreamio_object& target, size_t depth);
     void MakeItemsOrLeave(Frame& block);
     void Leave();
     void WriteItem(Frame& block);

@@ -61,6 +61,7 @@ char* PutDecimal(char* to, Decimal decimal) {
 /// reads as that double. Half of all coordinates are, since the design system counts in such units.
 Decimal FindFiveDecimals(double value) {
     constexpr double k_Scale = 1e5;
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): what it misses, the next line finds
     const auto digits = static_cast<int64_t>(value * k_Scale + 0.5);
     if (static_cast<double>(digits) / k_Scale != value)
         return {};

@@ -54,6 +54,16 @@ TEST(AStringTest, ReplaceExchangesUnits) {
     }
 }
 
+TEST(AStringTest, APartCanBeReplacedByTheTextItself) {
+    AString text("abc");
+    const AString copy = text;
+    text.replace(1, 1, text);
+    EXPECT_EQ(text.QRL_ANSI(), "aabcc");
+    text.replace(0, 1, copy);
+    EXPECT_EQ(text.QRL_ANSI(), "abcabcc");
+    EXPECT_EQ(copy.QRL_ANSI(), "abc");
+}
+
 TEST(AStringTest, FormatPutsTextsAndNumbersInPlace) {
     AString text("before");
     text.Format(L"%s", AString("x").c_str());

@@ -1,4 +1,5 @@
 #include "model/ZukenPCBParser.h"
+#include "tests/AssertionRecorder.h"
 #include "tests/BoardText.h"
 
 #include <gmock/gmock.h>
@@ -157,6 +158,7 @@ TEST(ZukenPCBParserTest, KeepsItsInputWhenTheSourceIsGone) {
                                               "(layerNumber 7 (type POSI))))))");
         parser = std::make_unique<ZukenPCBParser>(footprints, board);
     }
+    const AssertionRecorder emptyBoard; // nothing on it has a size
     parser->ParseBoardFile();
     EXPECT_EQ(parser->GetConductiveLayerName(7), AString("Conductive_7"));
 }

@@ -1,5 +1,6 @@
 #include "model/ZukenPCBParser.h"
 
+#include "tests/AssertionRecorder.h"
 #include "tests/BoardText.h"
 
 #include <gtest/gtest.h>
@@ -29,6 +30,7 @@ TEST(ZukenPCBParser_LayersTest, KeepsCopiesOfItsTrees) {
     io::CBlock tree = ReadListText(BoardWithLayers(2));
     ZukenPCBParser parser(ReadListText(""), tree);
     tree.Clear();
+    const AssertionRecorder emptyBoard; // nothing on it has a size
     parser.ParseBoardFile();
     EXPECT_EQ(LayersOf(parser).size(), 2U);
 }

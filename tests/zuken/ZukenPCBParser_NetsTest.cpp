@@ -61,6 +61,7 @@ TEST(ZukenPCBParser_NetsTest, UnknownComponentIsNotedWithAnEmptyNameAndNothingEl
     const BoardResult board = ReadNets("(net N1 (comp X9 (pin 1)))");
     EXPECT_TRUE(board.m_Parser->GetNameMap().HasReference("X9"));
     EXPECT_EQ("", board.m_Parser->GetComponentName("X9").QRL_ANSI());
+    EXPECT_THAT(NetNamesOf(*board.m_Parser), ElementsAre("N1"));
     EXPECT_THAT(PinsOf(board, "N1"), IsEmpty());
     EXPECT_EQ("", board.m_Output);
 }

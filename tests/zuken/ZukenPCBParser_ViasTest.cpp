@@ -64,6 +64,14 @@ TEST(ZukenPCBParser_ViasTest, PadstackWithAHoleIsAVia) {
     EXPECT_THAT(NetOf(board).surfaces, IsEmpty());
 }
 
+TEST(ZukenPCBParser_ViasTest, LayersWithoutAConnectionMeanNothingToAPadstackThatIsDrawn) {
+    const BoardResult board = ReadVias(
+        "(padstack THRU (net A) (fromTo 1 3) (conductive (layerNumber 1 (STATUS NOCONNECT)) (layerNumber 3)))");
+    EXPECT_THAT(NetOf(board).vias, IsEmpty());
+    EXPECT_THAT(SurfacesOf(board), SizeIs(2));
+    EXPECT_EQ("", board.m_Output);
+}
+
 TEST(ZukenPCBParser_ViasTest, SpanOfOneNumberIsOneLayer) {
     const BoardResult board = ReadVias("(padstack VIA (net A) (fromTo 2))");
     EXPECT_EQ("Conductive_2", OnlyViaOf(board).fromLayer.QRL_ANSI());
