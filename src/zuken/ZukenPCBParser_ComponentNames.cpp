@@ -9,8 +9,7 @@ AString ZukenPCBParser::MakeComponentName(const AString& reference) {
     if (reference.Match("*.") && reference.Match("*.*")) {
         name = ReplaceAll(reference, ".", "_");
         // Nothing is done yet about a name that another reference has too: the two components share it.
-        // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the analyzer doesn't follow the count of shared
-        // texts
+        // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): it doesn't follow the count of shared texts
         static_cast<void>(nameMap.HasName(name));
     }
     nameMap.Set(reference, name);
