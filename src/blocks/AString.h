@@ -142,6 +142,7 @@ namespace io {
 
 /// Whether two narrow texts are equal when the letters A to Z are folded: what `AString::CompareNoCase` tells of their
 /// wide forms, without making them.
+/// `HasEqualLettersNoCase_G` is its part for texts of one size.
 bool HasEqualLettersNoCase_G(std::string_view a, std::string_view b);
 inline bool EqualsNoCase_G(std::string_view a, std::string_view b) {
     return a.size() == b.size() && HasEqualLettersNoCase_G(a, b);
