@@ -90,17 +90,17 @@ bool CBlock_func::Enter(const TreeView& parent, const Node& node) {
 }
 
 CBlock_func& CBlock_func::operator<<(bool value) {
-    Change().Append(Node::OfBool(value));
+    Change().AppendValue(value);
     return *this;
 }
 
 CBlock_func& CBlock_func::operator<<(int value) {
-    Change().Append(Node::OfInt(value));
+    Change().AppendValue(value);
     return *this;
 }
 
 CBlock_func& CBlock_func::operator<<(double value) {
-    Change().Append(Node::OfDouble(value));
+    Change().AppendValue(value);
     return *this;
 }
 

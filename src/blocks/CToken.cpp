@@ -9,7 +9,7 @@ namespace io {
 
 const char CToken::mACharEmptyString[1] = "";
 
-CToken::CToken(NodeKind kind, std::string_view text) : m_Node(Node::OfText(kind, text, Node::k_ShortText)) {
+CToken::CToken(NodeKind kind, std::string_view text) : m_Node(kind, text, Node::k_ShortText) {
     if (!m_Node.HasShortText())
         m_LongText = text;
 }

@@ -37,7 +37,7 @@ public:
     static constexpr size_t k_ShortText = 14;
     static constexpr size_t k_ShortName = 10;
 
-    Node() : Node(NodeKind::k_Empty) {}
+    Node() = default;
 
     NodeKind GetKind() const { return m_Kind; }
     bool HasChildren() const { return m_Kind >= NodeKind::k_Func && m_Kind <= NodeKind::k_NamedValue; }
@@ -72,40 +72,27 @@ public:
         return (sizeof(uint64_t) + size + sizeof(Node) - 1) / sizeof(Node);
     }
 
-    static Node OfInt(int32_t value) { return OfValue(NodeKind::k_Int, value); }
-    static Node OfDouble(double value) { return OfValue(NodeKind::k_Double, value); }
-    static Node OfBool(bool value) { return OfValue(NodeKind::k_Bool, value); }
-    static Node OfReference(void* target) { return OfValue(NodeKind::k_Reference, target); }
+    /// A value of a kind that has one: a number, a truth value, or what a reference leads to.
+    template <class Value>
+    Node(NodeKind kind, Value value) : m_Kind(kind) {
+        Store(k_ValueAt, value);
+    }
 
     /// A node of `kind` whose text is `text` when that is at most `room` bytes long; otherwise its text is to be put
     /// behind it with `PutLongText`.
-    static Node OfText(NodeKind kind, std::string_view text, size_t room) {
-        Node node(kind);
+    Node(NodeKind kind, std::string_view text, size_t room) : m_Kind(kind) {
         if (text.size() <= room) {
-            node.m_TextSize = static_cast<uint8_t>(text.size());
-            std::memcpy(node.m_Payload, text.data(), text.size());
+            m_TextSize = static_cast<uint8_t>(text.size());
+            std::memcpy(m_Payload, text.data(), text.size());
         } else {
-            node.m_TextSize = k_LongText;
+            m_TextSize = k_LongText;
         }
-        return node;
     }
 
-    /// The same for a word whose text is short and lies in memory that can be read for `k_ShortText` bytes: the copy of
-    /// a fixed size is what makes reading a file fast.
-    static Node OfShortWord(const char* text, size_t size) {
-        Node node(NodeKind::k_Word);
-        node.m_TextSize = static_cast<uint8_t>(size);
-        std::memcpy(node.m_Payload, text, k_ShortText);
-        return node;
-    }
-
-    /// The same for a func with a short name.
-    static Node OfShortName(const char* name, size_t size, uint32_t extent) {
-        Node node(NodeKind::k_Func);
-        node.m_TextSize = static_cast<uint8_t>(size);
-        std::memcpy(node.m_Payload, name, k_ShortText);
-        node.SetExtent(extent);
-        return node;
+    /// The same for a text of `size` bytes, short enough for its node, that lies in memory which can be read for
+    /// `k_ShortText` bytes: the copy of a fixed size is what makes reading a file fast.
+    Node(NodeKind kind, const char* paddedText, size_t size) : m_Kind(kind), m_TextSize(static_cast<uint8_t>(size)) {
+        std::memcpy(m_Payload, paddedText, k_ShortText);
     }
 
     /// Puts `text` and its size into the nodes from `to` on.
@@ -120,15 +107,6 @@ private:
     static constexpr uint8_t k_LongText = 0xFF;
     static constexpr size_t k_ValueAt = 6;
     static constexpr size_t k_ExtentAt = 10;
-
-    explicit Node(NodeKind kind) : m_Kind(kind) {}
-
-    template <class T>
-    static Node OfValue(NodeKind kind, T value) {
-        Node node(kind);
-        node.Store(k_ValueAt, value);
-        return node;
-    }
 
     template <class T>
     T Load(size_t at) const {
@@ -148,7 +126,7 @@ private:
         return size;
     }
 
-    NodeKind m_Kind;
+    NodeKind m_Kind = NodeKind::k_Empty;
     uint8_t m_TextSize = 0;
     char m_Payload[k_ShortText] = {};
 };
