@@ -142,10 +142,14 @@ namespace io {
 
 /// Whether two narrow texts are equal when the letters A to Z are folded: what `AString::CompareNoCase` tells of their
 /// wide forms, without making them.
-/// `HasEqualLettersNoCase_G` is its part for texts of one size.
+/// `HasEqualLettersNoCase_G` is its part for texts of one size. Most texts that differ do so in their first letter, and
+/// most that are equal are so in their case too.
 bool HasEqualLettersNoCase_G(std::string_view a, std::string_view b);
 inline bool EqualsNoCase_G(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && HasEqualLettersNoCase_G(a, b);
+    constexpr int k_CaseBit = 'a' - 'A';
+    if (a.size() != b.size() || (!a.empty() && ((a.front() ^ b.front()) & ~k_CaseBit) != 0))
+        return false;
+    return a == b || HasEqualLettersNoCase_G(a, b);
 }
 
 } // namespace io

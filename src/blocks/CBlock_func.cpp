@@ -71,8 +71,8 @@ std::optional<TreeView> CBlock_func::FindFunc(std::string_view name) const {
     return std::nullopt;
 }
 
-const CBlock_func* CBlock_func::FuncOfReference(const Node& node) {
-    return node.GetKind() == NodeKind::k_Reference ? dynamic_cast<const CBlock_func*>(node.GetReference()) : nullptr;
+const CBlock_func* CBlock_func::ToFunc(const CStreamio_object* target) {
+    return dynamic_cast<const CBlock_func*>(target);
 }
 
 bool CBlock_func::Enter(const TreeView& parent, const Node& node) {

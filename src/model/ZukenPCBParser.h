@@ -2,6 +2,7 @@
 #define QRL_MODEL_ZUKENPCBPARSER_H
 
 #include "blocks/CBlock.h"
+#include "blocks/FuncView.h"
 #include "blocks/LongFileName.h"
 #include "lib/math/geometry/Arc.h"
 #include "lib/math/geometry/Box.h"
@@ -193,7 +194,7 @@ public:
     // ZukenPCBParser_Lines.cpp
 
     /// Makes the traces of one line: it is cut where its width changes. Always true.
-    bool ReadLine(const io::CBlock_func& block, Net* net, const AString& layerName);
+    bool ReadLine(io::FuncView block, Net* net, const AString& layerName);
 
     // ZukenPCBParser_CornerRounds.cpp
 
@@ -208,17 +209,17 @@ public:
 
     /// Makes a surface of each outline, with its voids, all moved to `origin`, turned by `angle` degrees and, when
     /// `mirrored`, turned the other way and mirrored about the vertical line through `origin`. Always true.
-    bool ReadSurface(const io::CBlock_func& block, Net* net, const AString& layerName, geom::Point origin, double angle,
+    bool ReadSurface(io::FuncView block, Net* net, const AString& layerName, geom::Point origin, double angle,
         bool mirrored);
     /// Reads a closed outline of points and arcs. Always true.
-    bool ReadLoop(const io::CBlock_func& block, geom::Polygon& polygon) const;
+    bool ReadLoop(io::FuncView block, geom::Polygon& polygon) const;
 
     // ZukenPCBParser_Vias.cpp
 
     /// Reads padstack instances of the board or of a pin. Always true.
     bool ReadPadstackLayer(const io::CBlock_func& layer, bool mirrorLayers, FootprintPin* pin);
     /// Appends the names of the layers on which `item` makes no connection, and returns how many `names` then holds.
-    int ReadNoConnectLayers(const io::CBlock_func& item, std::vector<AString>& names) const;
+    int ReadNoConnectLayers(io::FuncView item, std::vector<AString>& names) const;
     /// Draws a padstack that the neutral file has no form for as surfaces of the net. Any other, and null, is passed
     /// over.
     void AddPadstackSurfaces(
@@ -268,14 +269,14 @@ private:
     // ZukenPCBParser_Layout.cpp
 
     void ReadConductiveItem(
-        io::CBlock_func& item, const AString& layerName, geom::Point origin, double angle, bool mirrored);
+        io::FuncView item, const AString& layerName, geom::Point origin, double angle, bool mirrored);
     void ReadReference(
-        const io::CBlock_func& refer, const AString& layerName, geom::Point origin, double angle, bool mirrored);
-    void ReadPlacedPad(io::CBlock_func& item, const AString& layerName);
+        io::FuncView refer, const AString& layerName, geom::Point origin, double angle, bool mirrored);
+    void ReadPlacedPad(io::FuncView item, const AString& layerName);
 
     // ZukenPCBParser_Vias.cpp
 
-    void ReadPadstackInstance(io::CBlock_func& item, bool mirrorLayers, const FootprintPin* pin);
+    void ReadPadstackInstance(io::FuncView item, bool mirrorLayers, const FootprintPin* pin);
 
     // ZukenPCBParser_TextFile.cpp
 
