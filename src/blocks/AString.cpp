@@ -72,6 +72,15 @@ constexpr char16_t Fold(char16_t unit) { return unit >= u'A' && unit <= u'Z' ? u
 
 constexpr char FoldNarrow(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 
+template <class Change>
+uint64_t HashUnits_T(std::u16string_view units, const Change& change) {
+    constexpr uint64_t k_Spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
+    uint64_t hash = units.size();
+    for (const char16_t unit : units)
+        hash = (hash ^ change(unit)) * k_Spread;
+    return hash;
+}
+
 constexpr std::u16string_view k_Blanks = u" \t\r\n\v\f";
 
 std::u16string Widen(std::string_view narrow) {
@@ -163,11 +172,11 @@ int AString::CompareNoCase(const AString& other) const {
     return (size() > other.size()) - (size() < other.size());
 }
 
-std::u16string AString::GetFolded() const {
-    std::u16string folded = GetUnits();
-    std::transform(folded.begin(), folded.end(), folded.begin(), Fold);
-    return folded;
+uint64_t AString::GetHash() const {
+    return HashUnits_T(GetUnits(), [](char16_t unit) { return unit; });
 }
+
+uint64_t AString::GetHashNoCase() const { return HashUnits_T(GetUnits(), Fold); }
 
 void AString::replace(size_t pos, size_t count, const AString& text) {
     if (pos > size())

@@ -65,10 +65,11 @@ public:
     bool operator<(const AString& other) const { return GetUnits() < other.GetUnits(); }
 
     /// 0 for equal texts, else the sign of the unit by unit comparison. `CompareNoCase` folds the letters A to Z only.
-    /// `GetFolded` gives equal units for texts that are equal but for that case, as the key of an index.
+    /// A hash is the same for texts that are equal, or equal but for that case; its upper half is the better one.
     int Compare(const AString& other) const;
     int CompareNoCase(const AString& other) const;
-    std::u16string GetFolded() const;
+    uint64_t GetHash() const;
+    uint64_t GetHashNoCase() const;
 
     /// Position of the first `text` at or behind `from`, `npos` when there is none.
     size_t find(const AString& text, size_t from = 0) const { return GetUnits().find(text.GetUnits(), from); }

@@ -2,11 +2,10 @@
 #define QRL_MODEL_RECORDLIST_T_H
 
 #include "blocks/AString.h"
+#include "model/NameIndex_T.h"
 
 #include <cstddef>
 #include <memory>
-#include <string>
-#include <unordered_map>
 #include <vector>
 
 /// The records of one kind in the order in which they were made. Owns them; a record stays where it is until the list
@@ -22,14 +21,14 @@ public:
         Made* added = record.get();
         m_Owned.push_back(std::move(record));
         m_Records.push_back(added);
-        m_FirstByName.try_emplace(added->GetName().GetFolded(), added);
+        m_FirstByName.TryAdd(added->GetName(), added);
         return added;
     }
 
     /// The first record whose name equals `name` but for the case of the letters A to Z; null when there is none.
     Record* Find(const AString& name) const {
-        const auto found = m_FirstByName.find(name.GetFolded());
-        return found == m_FirstByName.end() ? nullptr : found->second;
+        Record* const* found = m_FirstByName.Find(name);
+        return found == nullptr ? nullptr : *found;
     }
 
     /// Replaces `out` by the records, which stay the list's, and returns how many there are.
@@ -47,7 +46,7 @@ public:
 private:
     std::vector<std::unique_ptr<Record>> m_Owned;
     std::vector<Record*> m_Records;
-    std::unordered_map<std::u16string, Record*> m_FirstByName; ///< by folded name
+    NameIndex_T<Record*> m_FirstByName;
 };
 
 #endif

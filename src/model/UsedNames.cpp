@@ -17,7 +17,7 @@ AString GetNumbered(const AString& base, int32_t n) {
 /// Numbers that were found taken are passed over by hops, and each search leads all hops that it took to its own end.
 /// That bounds n searches by n log n hops, whatever the numbers at which they start.
 AString UsedNames::AddNumbered(const AString& base, int32_t n) {
-    Onward& onward = m_OnwardByBase[base];
+    Onward& onward = *m_OnwardByBase.TryAdd(base, {}).first;
     std::vector<int32_t> taken;
     AString name;
     int32_t candidate = GetNext(n);

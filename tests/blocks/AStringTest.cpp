@@ -258,6 +258,14 @@ TEST(AStringTest, CompareNoCaseFoldsTheLettersAToZOnly) {
     }
 }
 
+TEST(AStringTest, EqualTextsHaveOneHash) {
+    const AString text = "Net-12\xC3\x84";
+    EXPECT_EQ(AString("Net-12\xC3\x84").GetHash(), text.GetHash());
+    EXPECT_NE(AString("nET-12\xC3\x84").GetHash(), text.GetHash());
+    EXPECT_EQ(AString("nET-12\xC3\x84").GetHashNoCase(), text.GetHashNoCase());
+    EXPECT_NE(AString("nET-12\xC3\xA4").GetHashNoCase(), text.GetHashNoCase()) << "only A to Z are folded";
+}
+
 TEST(AStringTest, NarrowAndWideAgreeOnEqualityButForCase) {
     std::mt19937 random(7);
     constexpr std::string_view k_Bytes = "aAzZ[{\xC3\x89\xA9\x80";
