@@ -84,8 +84,10 @@ uint64_t HashUnits_T(std::u16string_view units, const Change& change) {
 constexpr std::u16string_view k_Blanks = u" \t\r\n\v\f";
 
 std::u16string Widen(std::string_view narrow) {
-    std::u16string units;
-    units.reserve(narrow.size());
+    const auto isPlain = [](char c) { return static_cast<uint8_t>(c) < 0x80; };
+    const auto firstOther = std::find_if_not(narrow.begin(), narrow.end(), isPlain);
+    std::u16string units(narrow.begin(), firstOther);
+    narrow = {firstOther, narrow.end()};
     while (!narrow.empty()) {
         uint32_t code = 0;
         const size_t length = DecodeUtf8(narrow, code);

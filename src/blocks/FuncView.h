@@ -34,6 +34,14 @@ public:
     /// The arguments that are funcs. What isn't one is passed over.
     Range Funcs() const;
 
+    /// The text that it begins with, good as long as the tree is; empty where it begins with a number or nothing.
+    std::string_view GetText() const {
+        std::string_view text;
+        if (m_First != m_End)
+            NodeValue(*m_First).Query(text);
+        return text;
+    }
+
     /// Reads the argument at the read position and moves on. Where it is of another kind or missing, both stay.
     FuncView& operator>>(int& value) { return ReadValue(value); }
     FuncView& operator>>(double& value) { return ReadValue(value); }

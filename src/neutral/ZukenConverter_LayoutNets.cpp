@@ -15,20 +15,6 @@ void AppendVia(int32_t id, const Via& via, io::CBlock& block) {
     AppendRemovedThermalVoids_G(via.noConnectLayers, func);
 }
 
-/// The traces of a net lie all over memory, since the file is ordered by layers. So they are asked for ahead of the time
-/// when they are written: first the record, then the vertices that it leads to.
-void FetchAhead(const std::vector<Trace*>& traces, size_t index) {
-    constexpr size_t k_Ahead = 3;
-    constexpr size_t k_LineOfCache = 64;
-    constexpr size_t k_LinesOfVertices = 4;
-    if (index + 2 * k_Ahead >= traces.size())
-        return;
-    __builtin_prefetch(traces[index + 2 * k_Ahead]);
-    const auto* vertices = reinterpret_cast<const char*>(traces[index + k_Ahead]->vertices.data());
-    for (size_t line = 0; line < k_LinesOfVertices; ++line)
-        __builtin_prefetch(vertices + line * k_LineOfCache);
-}
-
 } // namespace
 
 void ZukenConverter::WriteLayoutNets(const Nets& nets, io::CBlock& parent) {
@@ -58,7 +44,7 @@ void ZukenConverter::WriteLayoutNetItem(const Net& net, size_t index, io::CBlock
         return;
     }
     index -= net.surfaces.size();
-    FetchAhead(net.traces, index);
+    net.FetchTraceBehind(index);
     WriteTraceGraphics(*net.traces[index], block);
 }
 

@@ -15,9 +15,7 @@ geom::Point ReadEnd(io::FuncView list, double scale, double& width) {
 
 ArcItem::ArcItem(io::FuncView list, double coordScale, double centerScale)
     : radius(GetRealOf_G(list, "r") * coordScale), unitScale(centerScale) {
-    AString text;
-    list >> text;
-    direction = text.CompareNoCase("CW") == 0 ? geom::k_CW : geom::k_CCW;
+    direction = io::EqualsNoCase_G(list.GetText(), "CW") ? geom::k_CW : geom::k_CCW;
     begin = ReadEnd(list.Find("begin"), coordScale, beginWidth);
     end = ReadEnd(list.Find("end"), coordScale, endWidth);
     list.Find("center") >> centerX >> centerY;

@@ -1,17 +1,5 @@
 #include "zuken/ListValues.h"
 
-namespace {
-
-/// The value that the first child of that name begins with, or the value of nothing.
-template <class T>
-T ReadChild_T(io::FuncView list, const char* name) {
-    T value{};
-    list.Find(name) >> value;
-    return value;
-}
-
-} // namespace
-
 io::CBlock_func GetChild_G(const io::CBlock_func& list, const char* name) {
     const std::optional<io::TreeView> child = list.FindFunc(name);
     return child ? io::CBlock_func(*child) : io::CBlock_func(name);
@@ -23,9 +11,13 @@ bool FindChild_G(const io::CBlock_func& list, io::CBlock_func& query) {
     return isFound;
 }
 
-double GetRealOf_G(io::FuncView list, const char* name) { return ReadChild_T<double>(list, name); }
+double GetRealOf_G(io::FuncView list, const char* name) {
+    double value = 0.0;
+    list.Find(name) >> value;
+    return value;
+}
 
-AString GetTextOf_G(io::FuncView list, const char* name) { return ReadChild_T<AString>(list, name); }
+AString GetTextOf_G(io::FuncView list, const char* name) { return AString(list.Find(name).GetText()); }
 
 void ReadName_G(io::CBlock_func& list, AString& name) {
     bool isRead = false;

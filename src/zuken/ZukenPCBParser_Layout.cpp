@@ -48,11 +48,11 @@ bool ZukenPCBParser::ReadLayout(const io::CBlock_func& block, bool skipPadstacks
 void ZukenPCBParser::ReadConductiveItem(
     io::FuncView item, const AString& layerName, geom::Point origin, double angle, bool mirrored) {
     if (item.NameIs("line")) {
-        const AString netName = GetTextOf_G(item, "net");
+        const std::string_view netName = item.Find("net").GetText();
         // Left over from the search for a fault of one board; it reports that net and changes nothing.
-        const bool isWatched = netName.CompareNoCase("SATA1_TX_DN") == 0;
+        const bool isWatched = io::EqualsNoCase_G(netName, "SATA1_TX_DN");
         QRL_ASSERT("ZukenPCBParser", "netName.CompareNoCase ( \"SATA1_TX_DN\" )", !isWatched);
-        ReadLine(GetShape(item, "line"), GetNet(netName), layerName);
+        ReadLine(GetShape(item, "line"), GetNet(AString(netName)), layerName);
     } else if (item.NameIs("surface")) {
         Net* net = GetNet(GetTextOf_G(item, "net"));
         ReadSurface(GetShape(item, "surface"), net, layerName, geom::k_Origin, 0.0, false);

@@ -73,7 +73,7 @@ int ZukenPCBParser::ReadNoConnectLayers(io::FuncView item, std::vector<AString>&
             continue;
         int number = 0;
         layerNumber >> number;
-        if (GetTextOf_G(layerNumber, "STATUS").CompareNoCase("NOCONNECT") == 0)
+        if (io::EqualsNoCase_G(layerNumber.Find("STATUS").GetText(), "NOCONNECT"))
             names.push_back(GetConductiveLayerName(number));
     }
     return static_cast<int>(names.size());
