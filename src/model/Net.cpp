@@ -41,8 +41,8 @@ geom::Box Net::ComputeBox() const {
 
 /// First the record, then the vertices that it leads to.
 void Net::FetchTraceBehind(size_t index) const {
-    constexpr size_t k_Ahead = 6;
-    constexpr size_t k_Vertices = 4; ///< a processor goes on by itself behind these
+    constexpr size_t k_Ahead = 4;
+    constexpr size_t k_Vertices = 8;
     if (index + 2 * k_Ahead >= traces.size())
         return;
     __builtin_prefetch(traces[index + 2 * k_Ahead]);
