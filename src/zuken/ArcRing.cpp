@@ -54,6 +54,11 @@ ArcRing::Index ArcRing::FindByStart(geom::Point start) const {
     return first == k_Left ? k_None : first;
 }
 
+void ArcRing::Expect(geom::Point start) const {
+    if (!m_Starts.empty())
+        __builtin_prefetch(&m_Starts[HashOf(start) & (m_Starts.size() - 1)]);
+}
+
 /// The slot of the start, or the free one in which it would stand.
 size_t ArcRing::FindSlot(geom::Point start, uint32_t hash) const {
     const auto isHere = [&](const Start& slot) {
@@ -80,6 +85,9 @@ void ArcRing::MakeRoomForStarts(size_t count) {
 }
 
 void ArcRing::ReplaceCorner(Index index, const geom::Arc& before, const geom::Arc& rounding, const geom::Arc* after) {
+    Expect(rounding.GetStart());
+    if (after != nullptr)
+        Expect(after->GetStart());
     const Index previous = GetPrevious(index);
     Index middle = index;
     if (previous == index) {

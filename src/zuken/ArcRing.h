@@ -36,6 +36,8 @@ public:
 
     /// The first arc of the list whose start is exactly `start`, -0.0 and 0.0 being equal; k_None when there is none.
     Index FindByStart(geom::Point start) const;
+    /// Has the memory at hand that a search for `start` looks at first.
+    void Expect(geom::Point start) const;
     /// The next arc of the list with the same start; k_None when there is none.
     Index GetNextOfSameStart(Index index) const { return m_Nodes[index].m_NextOfSameStart; }
 

@@ -31,8 +31,11 @@ PathVertex MakeVertex(geom::Point point, geom::Unit height, double width) {
 void ZukenPCBParser::ApplyCornerRounds(
     std::vector<PathVertex>& vertices, const std::vector<CornerRound>& rounds, double width) {
     ArcRing arcs = MakeRing(vertices, rounds.size());
-    for (const CornerRound& round : rounds)
-        RoundCorner(arcs, geom::Point(round.x, round.y), round.radius);
+    for (size_t i = 0; i < rounds.size(); ++i) {
+        if (i + 1 < rounds.size())
+            arcs.Expect(geom::Point(rounds[i + 1].x, rounds[i + 1].y));
+        RoundCorner(arcs, geom::Point(rounds[i].x, rounds[i].y), rounds[i].radius);
+    }
     vertices.clear();
     if (arcs.GetSize() == 0)
         return;
