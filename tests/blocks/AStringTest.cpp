@@ -93,6 +93,17 @@ TEST(AStringTest, AnIndexReachesOneUnit) {
     EXPECT_EQ(view[2], u'c');
 }
 
+TEST(AStringTest, ChangedUnitsCanTakeMoreBytes) {
+    AString text("ab");
+    text[0] = u'\u20AC';
+    EXPECT_EQ(text.GetNarrow(), "\xE2\x82\xAC"
+                                "b");
+    text[1] = u'\u20AC';
+    EXPECT_EQ(text.GetNarrow(), "\xE2\x82\xAC\xE2\x82\xAC");
+    text[0] = u'a';
+    EXPECT_EQ(text.GetNarrow(), "a\xE2\x82\xAC");
+}
+
 TEST(AStringTest, BytesThatAreNoUtf8BecomeLoneUnits) {
     struct Row {
         const char* m_Name;
