@@ -85,13 +85,22 @@ constexpr char16_t Fold(char16_t unit) { return unit >= u'A' && unit <= u'Z' ? u
 
 constexpr char FoldNarrow(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 
-template <class Change>
-uint64_t HashUnits_T(std::u16string_view units, const Change& change) {
+/// Seven plain characters and their number stand in the key itself; the upper bits of a hash are the better ones.
+template <class Text, class Change>
+uint64_t MakeKey_T(Text text, const Change& change) {
+    constexpr uint64_t k_IsHash = uint64_t{1} << 63;
     constexpr uint64_t k_Spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
-    uint64_t hash = units.size();
-    for (const char16_t unit : units)
-        hash = (hash ^ change(unit)) * k_Spread;
-    return hash;
+    constexpr size_t k_Packed = 7;
+    if (text.size() <= k_Packed && IsAscii_T(text)) {
+        uint64_t key = text.size();
+        for (const auto unit : text)
+            key = key << 8 | static_cast<uint64_t>(change(unit));
+        return key;
+    }
+    uint64_t hash = text.size();
+    for (const auto unit : text)
+        hash = (hash ^ static_cast<uint64_t>(change(unit))) * k_Spread;
+    return hash >> 1 | k_IsHash;
 }
 
 constexpr std::u16string_view k_Blanks = u" \t\r\n\v\f";
@@ -237,11 +246,11 @@ int AString::CompareNoCase(const AString& other) const {
     return (units.size() > others.size()) - (units.size() < others.size());
 }
 
-uint64_t AString::GetHash() const {
-    return HashUnits_T(GetUnits(), [](char16_t unit) { return unit; });
+uint64_t AString::GetKey() const {
+    return MakeKey_T(GetUnits(), [](char16_t unit) { return unit; });
 }
 
-uint64_t AString::GetHashNoCase() const { return HashUnits_T(GetUnits(), Fold); }
+uint64_t AString::GetKeyNoCase() const { return MakeKey_T(GetUnits(), Fold); }
 
 void AString::replace(size_t pos, size_t count, const AString& text) {
     if (pos > size())
@@ -348,6 +357,10 @@ void AString::FormatPieces(const wchar_t* format, std::initializer_list<Piece> p
             ++format;
     }
     *this = AString(text);
+}
+
+std::optional<uint64_t> io::KeyNoCase_G(std::string_view narrow) {
+    return IsAscii_T(narrow) ? std::optional(MakeKey_T(narrow, FoldNarrow)) : std::nullopt;
 }
 
 bool io::HasEqualLettersNoCase_G(std::string_view a, std::string_view b) {

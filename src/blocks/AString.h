@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -67,11 +68,11 @@ public:
     bool operator<(const AString& other) const { return GetUnits() < other.GetUnits(); }
 
     /// 0 for equal texts, else the sign of the unit by unit comparison. `CompareNoCase` folds the letters A to Z only.
-    /// A hash is the same for texts that are equal, or equal but for that case; its upper half is the better one.
+    /// A key is the same for texts that are equal, or equal but for that case.
     int Compare(const AString& other) const;
     int CompareNoCase(const AString& other) const;
-    uint64_t GetHash() const;
-    uint64_t GetHashNoCase() const;
+    uint64_t GetKey() const;
+    uint64_t GetKeyNoCase() const;
 
     /// Position of the first `text` at or behind `from`, `npos` when there is none.
     size_t find(const AString& text, size_t from = 0) const { return GetUnits().find(text.GetUnits(), from); }
@@ -159,6 +160,12 @@ private:
 };
 
 namespace io {
+
+/// Whether a key tells the whole text, as that of up to seven plain characters does: texts with this key are equal. Any
+/// other key is a hash.
+constexpr bool IsWholeKey_G(uint64_t key) { return key >> 63 == 0; }
+/// What `AString(narrow).GetKeyNoCase()` gives, without making it. Nothing where a character isn't of 7 bits.
+std::optional<uint64_t> KeyNoCase_G(std::string_view narrow);
 
 /// Whether two narrow texts are equal when the letters A to Z are folded: what `AString::CompareNoCase` tells of their
 /// wide forms, without making them.

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 /// The records of one kind in the order in which they were made. Owns them; a record stays where it is until the list
@@ -26,10 +27,9 @@ public:
     }
 
     /// The first record whose name equals `name` but for the case of the letters A to Z; null when there is none.
-    Record* Find(const AString& name) const {
-        Record* const* found = m_FirstByName.Find(name);
-        return found == nullptr ? nullptr : *found;
-    }
+    Record* Find(const AString& name) const { return Get(m_FirstByName.Find(name)); }
+    Record* Find(std::string_view name) const { return Get(m_FirstByName.Find(name)); }
+    Record* Find(const char* name) const { return Find(AString(name)); }
 
     /// Replaces `out` by the records, which stay the list's, and returns how many there are.
     int CopyTo(std::vector<Record*>& out) const {
@@ -44,6 +44,8 @@ public:
     Iterator end() const { return m_Records.end(); }
 
 private:
+    static Record* Get(Record* const* found) { return found == nullptr ? nullptr : *found; }
+
     std::vector<std::unique_ptr<Record>> m_Owned;
     std::vector<Record*> m_Records;
     NameIndex_T<Record*> m_FirstByName;
