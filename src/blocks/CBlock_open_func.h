@@ -30,6 +30,12 @@ public:
         m_Nodes.AppendText(NodeKind::k_Text, text);
         return *this;
     }
+    /// The keyword must be there as long as the tree.
+    CBlock_open_func& operator<<(const Keyword& keyword) {
+        m_Nodes.AppendKeyword(keyword);
+        return *this;
+    }
+    CBlock_open_func& operator<<(const Keyword&& keyword) = delete;
     CBlock_open_func& operator<<(const char* text) { return *this << std::string_view(text); }
     CBlock_open_func& operator<<(const AString& text) { return *this << text.GetNarrow(); }
 

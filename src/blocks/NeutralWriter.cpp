@@ -167,16 +167,21 @@ void NeutralWriter::WriteItem(Frame& block) {
     }
 }
 
-/// All values up to the next func, and that func's beginning.
+/// All up to the next func that isn't over at once, and that func's beginning.
 void NeutralWriter::WriteArguments(Frame& func) {
-    const Node* node = func.m_Next;
-    for (; node != func.m_End && IsValue(*node); node = node->GetNext()) {
-        StartArgument(func);
-        PutValue(*node, NodeValue(*node).GetText());
+    const size_t depth = m_Frames.size();
+    while (m_Frames.size() == depth && func.m_Next != func.m_End) {
+        const Node& node = *func.m_Next;
+        if (IsValue(node)) {
+            func.m_Next = node.GetNext();
+            StartArgument(func);
+            PutValue(node, NodeValue(node).GetText());
+        } else if (!IsNothing(node)) {
+            WriteFuncArgument(func);
+        } else {
+            ++func.m_Next;
+        }
     }
-    func.m_Next = node;
-    if (node != func.m_End && !IsNothing(*node))
-        WriteFuncArgument(func);
 }
 
 void NeutralWriter::WriteFuncArgument(Frame& func) {
@@ -194,11 +199,13 @@ void NeutralWriter::WriteFuncArgument(Frame& func) {
 /// Puts values on one line, up to the first node that is none, and returns that.
 const Node* NeutralWriter::PutRow(const Node* first, const Node* end) {
     const Node* node = first;
-    for (; node != end && IsValue(*node); node = node->GetNext()) {
+    for (; node != end && IsValue(*node); node += node->GetOwnNodes()) {
         if (node != first)
             PutMark(", ");
         if (node->GetKind() == NodeKind::k_Double)
             PutNumber(node->GetDouble());
+        else if (const Keyword* keyword = node->GetKeyword())
+            PutKeyword(*keyword);
         else if (node->GetKind() == NodeKind::k_Text)
             PutText(*node);
         else
@@ -276,6 +283,14 @@ void NeutralWriter::PutLineStart(size_t depth) {
         std::memset(MakeRoom(count), '\t', k_Slack);
         depth -= count;
     }
+}
+
+void NeutralWriter::PutKeyword(const Keyword& keyword) {
+    char* at = MakeRoom(Keyword::k_Room + 2);
+    *at = '"';
+    at = keyword.Put(at + 1);
+    *at = '"';
+    m_At = at + 1;
 }
 
 /// A short text in a node is copied with what stands behind it: to copy a known size is quicker.

@@ -69,6 +69,7 @@ private:
     const Node* PutRow(const Node* first, const Node* end);
     void PutNamedValue(std::string_view name, const Node& value, std::string_view text);
     void PutValue(const Node& value, std::string_view text);
+    void PutKeyword(const Keyword& keyword);
     void PutText(const Node& text);
     void PutWord(const NodeValue& word);
     void PutWhole(int value);

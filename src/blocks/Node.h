@@ -1,6 +1,8 @@
 #ifndef QRL_BLOCKS_NODE_H
 #define QRL_BLOCKS_NODE_H
 
+#include "blocks/Keyword.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -28,10 +30,11 @@ enum class NodeKind : uint8_t {
 /// A func, block or named value is followed at once by the nodes of what it holds, and knows how many they are (its
 /// extent, itself included); so the next sibling is one addition away, a copy of a subtree is a copy of memory, and
 /// nothing that walks, copies or frees a tree needs the call stack. Short texts lie in the node itself, long ones in
-/// the nodes behind it, which then count as part of it. A tree so needs nothing of the file that it came from.
+/// the nodes behind it, which then count as part of it, and keywords in the program. A tree so needs nothing of the
+/// file that it came from.
 ///
 /// Layout of the 16 bytes: kind, size of the text, then 14 bytes of text, or 10 bytes of name and the extent, or 6
-/// unused bytes and the value.
+/// unused bytes and the value or the keyword's address.
 class Node {
 public:
     static constexpr size_t k_ShortText = 14;
@@ -45,10 +48,14 @@ public:
     /// The text of a word or text, the name of a func, block or named value. Valid as long as the node stays where it
     /// is.
     std::string_view GetText() const {
-        if (m_TextSize != k_LongText)
+        if (HasShortText())
             return {m_Payload, m_TextSize};
+        if (const Keyword* keyword = GetKeyword())
+            return keyword->GetText();
         return {reinterpret_cast<const char*>(this + 1) + sizeof(uint64_t), GetLongSize()};
     }
+    /// What the text is, when it is a keyword; else null.
+    const Keyword* GetKeyword() const { return m_TextSize == k_IsKeyword ? Load<const Keyword*>(k_ValueAt) : nullptr; }
 
     int GetInt() const { return Load<int32_t>(k_ValueAt); }
     double GetDouble() const { return Load<double>(k_ValueAt); }
@@ -65,7 +72,8 @@ public:
 
     uint32_t GetExtentField() const { return Load<uint32_t>(k_ExtentAt); }
     void SetExtent(uint32_t extent) { Store(k_ExtentAt, extent); }
-    bool HasShortText() const { return m_TextSize != k_LongText; }
+    /// Whether the text lies in the node itself.
+    bool HasShortText() const { return m_TextSize <= k_ShortText; }
 
     /// How many further nodes a text of `size` bytes needs when it is too long for its node.
     static constexpr size_t NodesForLongText(size_t size) {
@@ -76,6 +84,11 @@ public:
     template <class Value>
     Node(NodeKind kind, Value value) : m_Kind(kind) {
         Store(k_ValueAt, value);
+    }
+
+    /// A text that is a keyword.
+    explicit Node(const Keyword& keyword) : m_Kind(NodeKind::k_Text), m_TextSize(k_IsKeyword) {
+        Store(k_ValueAt, &keyword);
     }
 
     /// A node of `kind` whose text is `text` when that is at most `room` bytes long; otherwise its text is to be put
@@ -105,6 +118,7 @@ public:
 
 private:
     static constexpr uint8_t k_LongText = 0xFF;
+    static constexpr uint8_t k_IsKeyword = 0xFE;
     static constexpr size_t k_ValueAt = 6;
     static constexpr size_t k_ExtentAt = 10;
 

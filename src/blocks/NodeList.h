@@ -49,6 +49,7 @@ public:
     void AppendValue(bool value) { new (MakeRoom(1)) Node(NodeKind::k_Bool, value); }
     void AppendValue(int value) { new (MakeRoom(1)) Node(NodeKind::k_Int, value); }
     void AppendValue(double value) { new (MakeRoom(1)) Node(NodeKind::k_Double, value); }
+    void AppendKeyword(const Keyword& keyword) { new (MakeRoom(1)) Node(keyword); }
     /// Appends a word or text. Here, so that a text that is known when this is compiled costs no call.
     void AppendText(NodeKind kind, std::string_view text) {
         if (text.size() <= Node::k_ShortText)
