@@ -34,13 +34,12 @@ public:
     Value* Find(const AString& name) { return const_cast<Value*>(std::as_const(*this).Find(name)); }
     const Value* Find(const AString& name) const { return FindUnder(Case::GetKey(name), name); }
     /// The same for a narrow name, of which no wide one is made when it is plain.
-    const Value* Find(std::string_view name) const
+    const Value* FindNarrow(std::string_view name) const
         requires std::same_as<Case, CaseIgnored>
     {
         const std::optional<uint64_t> key = io::KeyNoCase_G(name);
         return key ? FindUnder(*key, name) : Find(AString(name));
     }
-    const Value* Find(const char* name) const { return Find(AString(name)); }
 
     /// Enters `name` with `value`, unless it is there. Gives the value that it has then, good until the next name is
     /// entered, and whether it is new.

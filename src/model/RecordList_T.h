@@ -28,8 +28,7 @@ public:
 
     /// The first record whose name equals `name` but for the case of the letters A to Z; null when there is none.
     Record* Find(const AString& name) const { return Get(m_FirstByName.Find(name)); }
-    Record* Find(std::string_view name) const { return Get(m_FirstByName.Find(name)); }
-    Record* Find(const char* name) const { return Find(AString(name)); }
+    Record* FindNarrow(std::string_view name) const { return Get(m_FirstByName.FindNarrow(name)); }
 
     /// Replaces `out` by the records, which stay the list's, and returns how many there are.
     int CopyTo(std::vector<Record*>& out) const {

@@ -57,8 +57,8 @@ Net* ZukenPCBParser::GetNet(const AString& name) {
     return net != nullptr ? net : nets.Add(std::make_unique<Net>(known));
 }
 
-Net* ZukenPCBParser::GetNet(std::string_view name) {
-    Net* net = nets.Find(name);
+Net* ZukenPCBParser::GetNetOfText(std::string_view name) {
+    Net* net = nets.FindNarrow(name);
     return net != nullptr ? net : GetNet(AString(name));
 }
 

@@ -81,7 +81,7 @@ public:
     /// The net of that name, which is made when there is none. An empty name stands for "ZUKEN_DUMMY". The first
     /// spelling that was met stays the net's name.
     Net* GetNet(const AString& name);
-    Net* GetNet(std::string_view name);
+    Net* GetNetOfText(std::string_view name);
     /// Appends the outlines of a pad, about the pad's origin, and returns how many `out` then holds. A thermal pad is
     /// reported and has none.
     static int GetPadPolygons(const BasePad& pad, std::vector<geom::Polygon>& out);

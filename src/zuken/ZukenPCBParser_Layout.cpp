@@ -52,12 +52,12 @@ void ZukenPCBParser::ReadConductiveItem(
         // Left over from the search for a fault of one board; it reports that net and changes nothing.
         const bool isWatched = io::EqualsNoCase_G(netName, "SATA1_TX_DN");
         QRL_ASSERT("ZukenPCBParser", "netName.CompareNoCase ( \"SATA1_TX_DN\" )", !isWatched);
-        ReadLine(GetShape(item, "line"), GetNet(netName), layerName);
+        ReadLine(GetShape(item, "line"), GetNetOfText(netName), layerName);
     } else if (item.NameIs("surface")) {
-        Net* net = GetNet(item.Find("net").GetText());
+        Net* net = GetNetOfText(item.Find("net").GetText());
         ReadSurface(GetShape(item, "surface"), net, layerName, geom::k_Origin, 0.0, false);
     } else if (item.NameIs("meshplane")) {
-        Net* net = GetNet(item.Find("net").GetText());
+        Net* net = GetNetOfText(item.Find("net").GetText());
         ReadSurface(GetShape(item, "meshplane"), net, layerName, geom::k_Origin, 0.0, false);
     } else if (item.NameIs("refer")) {
         ReadReference(item, layerName, origin, angle, mirrored);
@@ -70,7 +70,7 @@ void ZukenPCBParser::ReadConductiveItem(
 void ZukenPCBParser::ReadReference(
     io::FuncView refer, const AString& layerName, geom::Point origin, double angle, bool mirrored) {
     const io::FuncView surface = refer.Find("surface");
-    Net* net = GetNet(surface.Find("net").GetText());
+    Net* net = GetNetOfText(surface.Find("net").GetText());
     const io::FuncView shape = GetShape(surface, "surface");
     // Without a geometry the outer surface is the shape.
     ReadSurface(shape ? shape : surface, net, layerName, origin, angle, mirrored);
@@ -82,7 +82,7 @@ void ZukenPCBParser::ReadReference(
 void ZukenPCBParser::ReadPlacedPad(io::FuncView item, const AString& layerName) {
     AString name;
     item >> name;
-    Net* net = GetNet(item.Find("net").GetText());
+    Net* net = GetNetOfText(item.Find("net").GetText());
     const BasePad* pad = FindPad(name);
     if (pad == nullptr)
         return;

@@ -46,7 +46,7 @@ bool ZukenPCBParser::ReadPadstackLayer(const io::CBlock_func& layer, bool mirror
 void ZukenPCBParser::ReadPadstackInstance(io::FuncView item, bool mirrorLayers, const FootprintPin* pin) {
     AString name;
     item >> name;
-    Net* net = GetNet(item.Find("net").GetText());
+    Net* net = GetNetOfText(item.Find("net").GetText());
     const geom::Point location = GetPointOf_G(item, coordScale);
     const double angle = GetRealOf_G(item, "angle");
     Padstack* padstack = FindPadstack(name);

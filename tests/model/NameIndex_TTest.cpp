@@ -2,9 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <map>
 #include <random>
 #include <string>
+
+namespace {
+
+/// All names have the same hash.
+struct OneKey {
+    static uint64_t GetKey(const AString& /*name*/) { return ~uint64_t{0}; }
+    static bool AreEqual(const AString& a, const AString& b) { return a == b; }
+};
+
+} // namespace
 
 TEST(NameIndex_TTest, EmptyIndexHasNoName) {
     const NameIndex_T<int> index;
@@ -58,6 +69,29 @@ TEST(NameIndex_TTest, EmptyNameIsANameLikeAnyOther) {
     EXPECT_TRUE(index.TryAdd("", 3).second);
     EXPECT_EQ(3, *index.Find(""));
     EXPECT_EQ(nullptr, index.Find("A"));
+}
+
+TEST(NameIndex_TTest, NarrowNameIsFoundLikeAWideOne) {
+    NameIndex_T<int> index;
+    EXPECT_EQ(nullptr, index.FindNarrow("GND"));
+    index.TryAdd("Gnd", 1);
+    index.TryAdd("A_longer_name", 2);
+    index.TryAdd("\xC3\x84rger", 3);
+    EXPECT_EQ(1, *index.FindNarrow("GND"));
+    EXPECT_EQ(2, *index.FindNarrow("a_LONGER_name"));
+    EXPECT_EQ(3, *index.FindNarrow("\xC3\x84RGER"));
+    EXPECT_EQ(nullptr, index.FindNarrow("\xC3\xA4rger")) << "only A to Z are folded";
+    EXPECT_EQ(nullptr, index.FindNarrow("GN"));
+    EXPECT_EQ(nullptr, index.FindNarrow("a_longer_nam_"));
+}
+
+TEST(NameIndex_TTest, NamesWithOneHashAreToldApart) {
+    NameIndex_T<int, OneKey> index;
+    index.TryAdd("A_first_name", 1);
+    index.TryAdd("A_second_name", 2);
+    EXPECT_EQ(1, *index.Find("A_first_name"));
+    EXPECT_EQ(2, *index.Find("A_second_name"));
+    EXPECT_EQ(nullptr, index.Find("A_third_name"));
 }
 
 TEST(NameIndex_TTest, AnswersAreThoseOfAMap) {
