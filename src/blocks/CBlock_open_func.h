@@ -32,10 +32,15 @@ public:
     }
     /// The keyword must be there as long as the tree.
     CBlock_open_func& operator<<(const Keyword& keyword) {
-        m_Nodes.AppendKeyword(keyword);
+        m_Nodes.AppendValue(keyword);
         return *this;
     }
     CBlock_open_func& operator<<(const Keyword&& keyword) = delete;
+    /// The same as one `<<` for each of the values, which are truth values, numbers and keywords, in less time.
+    template <class... Values>
+    void AppendRow(const Values&... values) {
+        m_Nodes.AppendRow(values...);
+    }
     CBlock_open_func& operator<<(const char* text) { return *this << std::string_view(text); }
     CBlock_open_func& operator<<(const AString& text) { return *this << text.GetNarrow(); }
 

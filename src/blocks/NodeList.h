@@ -46,10 +46,16 @@ public:
     /// Appends one value to the innermost open node. Each is made where it stands: copied as a whole right after it was
     /// written piece by piece, it would keep the processor waiting.
     void Append(const Node& node) { *MakeRoom(1) = node; }
-    void AppendValue(bool value) { new (MakeRoom(1)) Node(NodeKind::k_Bool, value); }
-    void AppendValue(int value) { new (MakeRoom(1)) Node(NodeKind::k_Int, value); }
-    void AppendValue(double value) { new (MakeRoom(1)) Node(NodeKind::k_Double, value); }
-    void AppendKeyword(const Keyword& keyword) { new (MakeRoom(1)) Node(keyword); }
+    void AppendValue(bool value) { NewNode(MakeRoom(1), value); }
+    void AppendValue(int value) { NewNode(MakeRoom(1), value); }
+    void AppendValue(double value) { NewNode(MakeRoom(1), value); }
+    void AppendValue(const Keyword& keyword) { NewNode(MakeRoom(1), keyword); }
+    /// Appends values and keywords, of which each is one node.
+    template <class... Values>
+    void AppendRow(const Values&... values) {
+        Node* at = MakeRoom(sizeof...(values));
+        (NewNode(at++, values), ...);
+    }
     /// Appends a word or text. Here, so that a text that is known when this is compiled costs no call.
     void AppendText(NodeKind kind, std::string_view text) {
         if (text.size() <= Node::k_ShortText)
@@ -140,6 +146,10 @@ private:
         last->SetExtent(m_Storage->m_InnermostOpen);
         m_Storage->m_InnermostOpen = static_cast<uint32_t>(last - m_Storage->GetNodes());
     }
+    static void NewNode(Node* at, bool value) { new (at) Node(NodeKind::k_Bool, value); }
+    static void NewNode(Node* at, int value) { new (at) Node(NodeKind::k_Int, value); }
+    static void NewNode(Node* at, double value) { new (at) Node(NodeKind::k_Double, value); }
+    static void NewNode(Node* at, const Keyword& keyword) { new (at) Node(keyword); }
     void OpenLong(NodeKind kind, std::string_view name);
     void AppendLongText(NodeKind kind, std::string_view text);
     void Reserve(size_t count);
