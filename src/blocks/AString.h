@@ -70,6 +70,7 @@ public:
     /// A hash is the same for texts that are equal, or equal but for that case; its upper half is the better one.
     int Compare(const AString& other) const;
     int CompareNoCase(const AString& other) const;
+    int CompareNoCase(const char* narrow) const;
     uint64_t GetHash() const;
     uint64_t GetHashNoCase() const;
 
@@ -132,7 +133,7 @@ private:
         std::u16string_view GetText() const { return m_Text; }
 
     private:
-        std::array<char16_t, 20> m_Digits; ///< of the longest number, with its sign
+        std::array<char16_t, 20> m_Digits = {}; ///< of the longest number, with its sign
         std::u16string_view m_Text;
     };
 
@@ -162,10 +163,14 @@ namespace io {
 
 /// Whether two narrow texts are equal when the letters A to Z are folded: what `AString::CompareNoCase` tells of their
 /// wide forms, without making them.
-/// `HasEqualLettersNoCase_G` is its part for texts of one size.
+/// `HasEqualLettersNoCase_G` is its part for texts of one size. Most of those that differ do so in the first letter, by
+/// more than the bit between its cases.
 bool HasEqualLettersNoCase_G(std::string_view a, std::string_view b);
 inline bool EqualsNoCase_G(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && HasEqualLettersNoCase_G(a, b);
+    constexpr int k_CaseBit = 'a' - 'A';
+    if (a.size() != b.size())
+        return false;
+    return a.empty() || (((a.front() ^ b.front()) & ~k_CaseBit) == 0 && HasEqualLettersNoCase_G(a, b));
 }
 
 } // namespace io
