@@ -85,6 +85,19 @@ constexpr char16_t Fold(char16_t unit) { return unit >= u'A' && unit <= u'Z' ? u
 
 constexpr char FoldNarrow(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 
+/// The sign of the comparison with `other`, whose characters are units or ASCII.
+template <class Other>
+int CompareNoCase_T(std::u16string_view units, Other other) {
+    const size_t common = std::min(units.size(), other.size());
+    for (size_t i = 0; i < common; ++i) {
+        const char16_t a = Fold(units[i]);
+        const char16_t b = Fold(static_cast<char16_t>(other[i]));
+        if (a != b)
+            return a < b ? -1 : 1;
+    }
+    return (units.size() > other.size()) - (units.size() < other.size());
+}
+
 /// Seven plain characters and their number stand in the key itself; the upper bits of a hash are the better ones.
 template <class Text, class Change>
 uint64_t MakeKey_T(Text text, const Change& change) {
@@ -233,17 +246,12 @@ int AString::Compare(const AString& other) const {
     return (order > 0) - (order < 0);
 }
 
-int AString::CompareNoCase(const AString& other) const {
-    const std::u16string_view units = GetUnits();
-    const std::u16string_view others = other.GetUnits();
-    const size_t common = std::min(units.size(), others.size());
-    for (size_t i = 0; i < common; ++i) {
-        const char16_t a = Fold(units[i]);
-        const char16_t b = Fold(others[i]);
-        if (a != b)
-            return a < b ? -1 : 1;
-    }
-    return (units.size() > others.size()) - (units.size() < others.size());
+int AString::CompareNoCase(const AString& other) const { return CompareNoCase_T(GetUnits(), other.GetUnits()); }
+
+/// A keyword needs no text of its own to be compared with.
+int AString::CompareNoCase(const char* narrow) const {
+    const std::string_view other = narrow;
+    return IsAscii_T(other) ? CompareNoCase_T(GetUnits(), other) : CompareNoCase(AString(other));
 }
 
 uint64_t AString::GetKey() const {
@@ -304,7 +312,10 @@ int AString::TokenizeString(const AString& delimiters, std::vector<AString>& pie
     size_t start = 0;
     while (start <= size()) {
         const size_t end = std::min(GetUnits().find_first_of(delimiters.GetUnits(), start), size());
-        if (keepEmpty || end > start)
+        const bool isKept = keepEmpty || end > start;
+        if (isKept && end - start == size())
+            pieces.push_back(*this);
+        else if (isKept)
             pieces.emplace_back(GetUnits().substr(start, end - start));
         start = end + 1;
     }
@@ -336,7 +347,7 @@ std::string_view AString::GetNarrow() const {
 }
 
 AString::Piece::Piece(long number) {
-    std::array<char, 20> digits;
+    std::array<char, 20> digits{};
     const char* end = std::to_chars(digits.begin(), digits.end(), number).ptr;
     const auto count = static_cast<size_t>(end - digits.data());
     std::copy_n(digits.begin(), count, m_Digits.begin());
@@ -364,5 +375,6 @@ std::optional<uint64_t> io::KeyNoCase_G(std::string_view narrow) {
 }
 
 bool io::HasEqualLettersNoCase_G(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return FoldNarrow(x) == FoldNarrow(y); });
+    return a == b ||
+           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return FoldNarrow(x) == FoldNarrow(y); });
 }

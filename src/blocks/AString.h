@@ -71,6 +71,7 @@ public:
     /// A key is the same for texts that are equal, or equal but for that case.
     int Compare(const AString& other) const;
     int CompareNoCase(const AString& other) const;
+    int CompareNoCase(const char* narrow) const;
     uint64_t GetKey() const;
     uint64_t GetKeyNoCase() const;
 
@@ -133,7 +134,7 @@ private:
         std::u16string_view GetText() const { return m_Text; }
 
     private:
-        std::array<char16_t, 20> m_Digits; ///< of the longest number, with its sign
+        std::array<char16_t, 20> m_Digits = {}; ///< of the longest number, with its sign
         std::u16string_view m_Text;
     };
 

@@ -31,7 +31,7 @@ void ZukenPCBParser::FootprintPinReader::ReadPin(io::CBlock_func& pin) {
 
 /// `fpadstack` is the one keyword whose case matters: the format's established behaviour; kept as it is.
 void ZukenPCBParser::FootprintPinReader::ReadItem(io::CBlock_func& item) {
-    if (item.Name().Compare("fpadstack") == 0)
+    if (item.GetTree().GetName() == "fpadstack")
         ReadPadstackItem(item);
     else if (item.NameIs("footLayer"))
         item >> m_Source.m_LayerName;

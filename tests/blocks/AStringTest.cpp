@@ -267,6 +267,7 @@ TEST(AStringTest, CompareNoCaseFoldsTheLettersAToZOnly) {
     // clang-format on
     for (const Row& row : rows) {
         EXPECT_EQ(AString(row.m_A).CompareNoCase(row.m_B), row.m_Order) << row.m_A << ' ' << row.m_B;
+        EXPECT_EQ(AString(row.m_A).CompareNoCase(AString(row.m_B)), row.m_Order) << row.m_A << ' ' << row.m_B;
         EXPECT_EQ(io::EqualsNoCase_G(row.m_A, row.m_B), row.m_Order == 0) << row.m_A << ' ' << row.m_B;
     }
 }
