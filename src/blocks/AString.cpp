@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cstdint>
 #include <limits>
+#include <new>
+#include <stdexcept>
 #include <utility>
 
 namespace {
@@ -49,8 +51,9 @@ size_t DecodeUtf8(std::string_view text, uint32_t& code) {
     return code < k_Smallest[length] || code > 0x10FFFF || isSurrogate ? 0 : length;
 }
 
-void AppendUtf8(std::string& text, uint32_t code) {
-    const auto put = [&](uint32_t byte) { text += static_cast<char>(static_cast<uint8_t>(byte)); };
+/// Puts the UTF-8 sequence of the code at `to` and returns its end.
+char* PutUtf8(char* to, uint32_t code) {
+    const auto put = [&](uint32_t byte) { *to++ = static_cast<char>(static_cast<uint8_t>(byte)); };
     if (code < 0x80) {
         put(code);
     } else if (code < 0x800) {
@@ -66,17 +69,60 @@ void AppendUtf8(std::string& text, uint32_t code) {
         put(0x80 | (code >> 6 & 0x3F));
         put(0x80 | (code & 0x3F));
     }
+    return to;
+}
+
+/// Whether both forms of the text have the same numbers.
+template <class Text>
+bool IsAscii_T(Text text) {
+    uint32_t all = 0;
+    for (const auto unit : text)
+        all |= static_cast<uint32_t>(unit);
+    return all < 0x80;
 }
 
 constexpr char16_t Fold(char16_t unit) { return unit >= u'A' && unit <= u'Z' ? unit + (u'a' - u'A') : unit; }
 
 constexpr char FoldNarrow(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 
+/// The sign of the comparison with `other`, whose characters are units or ASCII.
+template <class Other>
+int CompareNoCase_T(std::u16string_view units, Other other) {
+    const size_t common = std::min(units.size(), other.size());
+    for (size_t i = 0; i < common; ++i) {
+        const char16_t a = Fold(units[i]);
+        const char16_t b = Fold(static_cast<char16_t>(other[i]));
+        if (a != b)
+            return a < b ? -1 : 1;
+    }
+    return (units.size() > other.size()) - (units.size() < other.size());
+}
+
+/// Seven plain characters and their number stand in the key itself; the upper bits of a hash are the better ones.
+template <class Text, class Change>
+uint64_t MakeKey_T(Text text, const Change& change) {
+    constexpr uint64_t k_IsHash = uint64_t{1} << 63;
+    constexpr uint64_t k_Spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
+    constexpr size_t k_Packed = 7;
+    if (text.size() <= k_Packed && IsAscii_T(text)) {
+        uint64_t key = text.size();
+        for (const auto unit : text)
+            key = key << 8 | static_cast<uint64_t>(change(unit));
+        return key;
+    }
+    uint64_t hash = text.size();
+    for (const auto unit : text)
+        hash = (hash ^ static_cast<uint64_t>(change(unit))) * k_Spread;
+    return hash >> 1 | k_IsHash;
+}
+
 constexpr std::u16string_view k_Blanks = u" \t\r\n\v\f";
 
 std::u16string Widen(std::string_view narrow) {
-    std::u16string units;
-    units.reserve(narrow.size());
+    const auto isPlain = [](char c) { return static_cast<uint8_t>(c) < 0x80; };
+    const auto firstOther = std::find_if_not(narrow.begin(), narrow.end(), isPlain);
+    std::u16string units(narrow.begin(), firstOther);
+    narrow = {firstOther, narrow.end()};
     while (!narrow.empty()) {
         uint32_t code = 0;
         const size_t length = DecodeUtf8(narrow, code);
@@ -96,45 +142,93 @@ std::u16string Widen(const wchar_t* wide) {
     return units;
 }
 
-std::string Narrow(const std::u16string& units) {
-    std::string text;
-    text.reserve(units.size());
+/// The most bytes that the narrow form has for a unit. A character outside the basic plane takes four for its two.
+constexpr size_t k_MostBytesPerUnit = 3;
+
+/// Puts the narrow form of the units at `to` and returns its end.
+char* PutNarrow(char* to, std::u16string_view units) {
     for (size_t i = 0; i < units.size(); ++i) {
         const char16_t unit = units[i];
         if (IsHighSurrogate(unit) && i + 1 < units.size() && IsLowSurrogate(units[i + 1])) {
             ++i;
             const uint32_t high = static_cast<uint32_t>(unit - k_HighSurrogate) << 10;
-            AppendUtf8(text, k_FirstSupplementary + high + static_cast<uint32_t>(units[i] - k_LowSurrogate));
+            to = PutUtf8(to, k_FirstSupplementary + high + static_cast<uint32_t>(units[i] - k_LowSurrogate));
         } else if (IsEscapedByte(unit)) {
-            text += static_cast<char>(static_cast<uint8_t>(unit - k_LowSurrogate));
+            *to++ = static_cast<char>(static_cast<uint8_t>(unit - k_LowSurrogate));
         } else {
-            AppendUtf8(text, unit);
+            to = PutUtf8(to, unit);
         }
     }
+    return to;
+}
+
+std::string Narrow(std::u16string_view units) {
+    std::string text(units.size() * k_MostBytesPerUnit, '\0');
+    text.resize(static_cast<size_t>(PutNarrow(text.data(), units) - text.data()));
     return text;
 }
 
 } // namespace
 
-const std::u16string AString::k_NoUnits;
+AString::AString(std::u16string_view units) : m_Text(Make(units)) {}
 
-AString::AString(std::u16string units) : m_Text(Make(std::move(units))) {}
-
-AString::AString(std::string_view narrow) : AString(Widen(narrow)) {}
+AString::AString(std::string_view narrow) {
+    if (!IsAscii_T(narrow)) {
+        m_Text = Make(Widen(narrow));
+    } else if (!narrow.empty()) {
+        m_Text = Allocate(narrow.size(), narrow.size());
+        std::copy(narrow.begin(), narrow.end(), m_Text->GetUnits());
+        std::copy(narrow.begin(), narrow.end(), m_Text->GetNarrow());
+    }
+}
 
 AString::AString(const wchar_t* wide) : AString(Widen(wide)) {}
 
-char16_t& AString::operator[](size_t index) {
-    char16_t& unit = ChangeUnits()[index];
-    m_Text->m_IsOpen = true;
-    return unit;
+AString::Text* AString::Allocate(size_t size, size_t narrowSize) {
+    if (std::max(size, narrowSize) > std::numeric_limits<uint32_t>::max())
+        throw std::length_error("AString");
+    void* memory = ::operator new(sizeof(Text) + (size + 1) * sizeof(char16_t) + narrowSize);
+    Text* text = new (memory) Text{1, false, static_cast<uint32_t>(size), static_cast<uint32_t>(narrowSize)};
+    text->GetUnits()[size] = u'\0';
+    return text;
 }
 
-std::u16string& AString::ChangeUnits() {
-    if (m_Text->m_Users != 1)
-        *this = AString(GetUnits());
-    m_Text->m_Narrow.clear();
-    return m_Text->m_Units;
+AString::Text* AString::Make(std::u16string_view units) {
+    if (units.empty())
+        return nullptr;
+    const bool isAscii = IsAscii_T(units);
+    const std::string narrow = isAscii ? std::string() : Narrow(units);
+    Text* text = Allocate(units.size(), isAscii ? units.size() : narrow.size());
+    std::copy(units.begin(), units.end(), text->GetUnits());
+    if (isAscii)
+        std::transform(
+            units.begin(), units.end(), text->GetNarrow(), [](char16_t unit) { return static_cast<char>(unit); });
+    else
+        std::copy(narrow.begin(), narrow.end(), text->GetNarrow());
+    return text;
+}
+
+/// With room for the narrow form of whatever becomes of the units.
+AString::Text* AString::MakeOpen(std::u16string_view units) {
+    Text* text = Allocate(units.size(), units.size() * k_MostBytesPerUnit);
+    std::copy(units.begin(), units.end(), text->GetUnits());
+    text->m_IsOpen = true;
+    return text;
+}
+
+char16_t& AString::operator[](size_t index) {
+    if (!m_Text->m_IsOpen) {
+        AString open;
+        open.m_Text = MakeOpen(GetUnits());
+        std::swap(m_Text, open.m_Text);
+    }
+    return m_Text->GetUnits()[index];
+}
+
+AString AString::operator+(const AString& tail) const {
+    std::u16string sum(GetUnits());
+    sum += tail.GetUnits();
+    return AString(sum);
 }
 
 AString AString::Left(ptrdiff_t n) const {
@@ -152,22 +246,19 @@ int AString::Compare(const AString& other) const {
     return (order > 0) - (order < 0);
 }
 
-int AString::CompareNoCase(const AString& other) const {
-    const size_t common = std::min(size(), other.size());
-    for (size_t i = 0; i < common; ++i) {
-        const char16_t a = Fold(GetUnits()[i]);
-        const char16_t b = Fold(other.GetUnits()[i]);
-        if (a != b)
-            return a < b ? -1 : 1;
-    }
-    return (size() > other.size()) - (size() < other.size());
+int AString::CompareNoCase(const AString& other) const { return CompareNoCase_T(GetUnits(), other.GetUnits()); }
+
+/// A keyword needs no text of its own to be compared with.
+int AString::CompareNoCase(const char* narrow) const {
+    const std::string_view other = narrow;
+    return IsAscii_T(other) ? CompareNoCase_T(GetUnits(), other) : CompareNoCase(AString(other));
 }
 
-std::u16string AString::GetFolded() const {
-    std::u16string folded = GetUnits();
-    std::transform(folded.begin(), folded.end(), folded.begin(), Fold);
-    return folded;
+uint64_t AString::GetKey() const {
+    return MakeKey_T(GetUnits(), [](char16_t unit) { return unit; });
 }
+
+uint64_t AString::GetKeyNoCase() const { return MakeKey_T(GetUnits(), Fold); }
 
 void AString::replace(size_t pos, size_t count, const AString& text) {
     if (pos > size())
@@ -176,13 +267,13 @@ void AString::replace(size_t pos, size_t count, const AString& text) {
         *this = text;
         return;
     }
-    ChangeUnits().replace(pos, count, text.GetUnits());
-    if (m_Text->m_Units.empty())
-        *this = AString();
+    std::u16string units(GetUnits());
+    units.replace(pos, count, text.GetUnits());
+    *this = AString(units);
 }
 
 void AString::Trim() {
-    const std::u16string& units = GetUnits();
+    const std::u16string_view units = GetUnits();
     const size_t first = units.find_first_not_of(k_Blanks);
     if (first == npos)
         *this = AString();
@@ -194,7 +285,7 @@ void AString::Trim() {
 /// earlier
 /// `*` never has to be tried again, as the last one can take over whatever it would have taken.
 bool AString::Match(const AString& pattern) const {
-    const std::u16string& mask = pattern.GetUnits();
+    const std::u16string_view mask = pattern.GetUnits();
     size_t at = 0;
     size_t maskAt = 0;
     size_t star = npos;
@@ -221,7 +312,10 @@ int AString::TokenizeString(const AString& delimiters, std::vector<AString>& pie
     size_t start = 0;
     while (start <= size()) {
         const size_t end = std::min(GetUnits().find_first_of(delimiters.GetUnits(), start), size());
-        if (keepEmpty || end > start)
+        const bool isKept = keepEmpty || end > start;
+        if (isKept && end - start == size())
+            pieces.push_back(*this);
+        else if (isKept)
             pieces.emplace_back(GetUnits().substr(start, end - start));
         start = end + 1;
     }
@@ -246,32 +340,41 @@ bool AString::IsNumber(int& value, int base) const {
 std::string_view AString::GetNarrow() const {
     if (m_Text == nullptr)
         return "";
-    if (m_Text->m_Narrow.empty() || m_Text->m_IsOpen)
-        m_Text->m_Narrow = Narrow(m_Text->m_Units);
-    return m_Text->m_Narrow;
+    char* narrow = m_Text->GetNarrow();
+    if (m_Text->m_IsOpen)
+        m_Text->m_NarrowSize = static_cast<uint32_t>(PutNarrow(narrow, GetUnits()) - narrow);
+    return {narrow, m_Text->m_NarrowSize};
 }
 
-std::u16string AString::ToText(long value) {
-    const std::string digits = std::to_string(value);
-    return {digits.begin(), digits.end()};
+AString::Piece::Piece(long number) {
+    std::array<char, 20> digits{};
+    const char* end = std::to_chars(digits.begin(), digits.end(), number).ptr;
+    const auto count = static_cast<size_t>(end - digits.data());
+    std::copy_n(digits.begin(), count, m_Digits.begin());
+    m_Text = std::u16string_view(m_Digits.data(), count);
 }
 
-void AString::FormatPieces(const AString& format, const std::vector<std::u16string>& pieces) {
+void AString::FormatPieces(const wchar_t* format, std::initializer_list<Piece> pieces) {
     std::u16string text;
-    size_t next = 0;
-    for (size_t i = 0; i < format.size(); ++i) {
-        const char16_t kind = format[i] == u'%' && i + 1 < format.size() ? format[i + 1] : u'\0';
-        const bool takesPiece = (kind == u's' || kind == u'd') && next < pieces.size();
+    const Piece* next = pieces.begin();
+    for (; *format != L'\0'; ++format) {
+        const wchar_t kind = *format == L'%' ? format[1] : L'\0';
+        const bool takesPiece = (kind == L's' || kind == L'd') && next != pieces.end();
         if (takesPiece)
-            text += pieces[next++];
+            text += (next++)->GetText();
         else
-            text += format[i];
-        if (takesPiece || kind == u'%')
-            ++i;
+            AppendCodePoint(text, static_cast<uint32_t>(*format));
+        if (takesPiece || kind == L'%')
+            ++format;
     }
-    *this = AString(std::move(text));
+    *this = AString(text);
+}
+
+std::optional<uint64_t> io::KeyNoCase_G(std::string_view narrow) {
+    return IsAscii_T(narrow) ? std::optional(MakeKey_T(narrow, FoldNarrow)) : std::nullopt;
 }
 
 bool io::HasEqualLettersNoCase_G(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return FoldNarrow(x) == FoldNarrow(y); });
+    return a == b ||
+           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return FoldNarrow(x) == FoldNarrow(y); });
 }

@@ -1,8 +1,11 @@
 #ifndef QRL_BLOCKS_ASTRING_H
 #define QRL_BLOCKS_ASTRING_H
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -39,7 +42,7 @@ public:
     AString(const wchar_t* wide);                                      // NOLINT(google-explicit-constructor)
     /// Widens `narrow`, which may hold any bytes, NUL included.
     explicit AString(std::string_view narrow);
-    explicit AString(std::u16string units);
+    explicit AString(std::u16string_view units);
 
     /// Replaces the text.
     void assign(const char* narrow) { *this = AString(narrow); }
@@ -48,7 +51,7 @@ public:
     size_t size() const { return GetUnits().size(); }
     size_t length() const { return size(); }
     bool empty() const { return m_Text == nullptr; }
-    const char16_t* c_str() const { return GetUnits().c_str(); }
+    const char16_t* c_str() const { return GetUnits().data(); }
     /// The unit at `index`, which must be below `size()`. Through the reference of the first, which is good until the
     /// text is replaced, the unit can be changed; copies don't notice.
     char16_t& operator[](size_t index);
@@ -58,17 +61,19 @@ public:
     AString Left(ptrdiff_t n) const;
     AString Right(ptrdiff_t n) const;
 
-    AString operator+(const AString& tail) const { return AString(GetUnits() + tail.GetUnits()); }
+    AString operator+(const AString& tail) const;
     bool operator==(const AString& other) const { return m_Text == other.m_Text || GetUnits() == other.GetUnits(); }
     /// Unit by unit; the order of every ordered map and set of the model.
-    bool operator<(const std::u16string& other) const { return GetUnits() < other; }
+    bool operator<(std::u16string_view other) const { return GetUnits() < other; }
     bool operator<(const AString& other) const { return GetUnits() < other.GetUnits(); }
 
     /// 0 for equal texts, else the sign of the unit by unit comparison. `CompareNoCase` folds the letters A to Z only.
-    /// `GetFolded` gives equal units for texts that are equal but for that case, as the key of an index.
+    /// A key is the same for texts that are equal, or equal but for that case.
     int Compare(const AString& other) const;
     int CompareNoCase(const AString& other) const;
-    std::u16string GetFolded() const;
+    int CompareNoCase(const char* narrow) const;
+    uint64_t GetKey() const;
+    uint64_t GetKeyNoCase() const;
 
     /// Position of the first `text` at or behind `from`, `npos` when there is none.
     size_t find(const AString& text, size_t from = 0) const { return GetUnits().find(text.GetUnits(), from); }
@@ -79,7 +84,7 @@ public:
     /// stands for a percent sign. A placeholder without an argument stays as it is; arguments without one are dropped.
     template <class... Args>
     void Format(const wchar_t* format, const Args&... args) {
-        FormatPieces(AString(format), {ToText(args)...});
+        FormatPieces(format, {Piece(args)...});
     }
 
     /// Removes space, tab, CR, LF, VT and FF at both ends.
@@ -97,18 +102,40 @@ public:
     /// value that fits 32 bits. Sets `value` only then.
     bool IsNumber(int& value, int base) const;
 
-    /// The narrow form, the only way to narrow output. It is made once for all copies.
+    /// The narrow form, the only way to narrow output. All copies share it.
     std::string QRL_ANSI() const { return std::string(GetNarrow()); }
     /// The same in the memory of the text, which lives as long as one of its handles. Never a null pointer.
     std::string_view GetNarrow() const;
 
 private:
-    /// What the copies share. An empty text has none.
+    /// What the copies share, in one piece of memory: behind this the units with a NUL, and behind that the narrow
+    /// form. An empty text has none.
     struct Text {
-        std::u16string m_Units;
-        std::string m_Narrow = std::string(); ///< empty as long as nobody has asked for it
-        uint32_t m_Users = 1;
-        bool m_IsOpen = false; ///< someone may hold a reference to a unit: not to be shared any more
+        uint32_t m_Users;
+        bool m_IsOpen; ///< someone may hold a reference to a unit: not to be shared any more
+        uint32_t m_Size;
+        uint32_t m_NarrowSize; ///< of one that is open, as of when it was last asked for
+
+        char16_t* GetUnits() { return reinterpret_cast<char16_t*>(this + 1); }
+        char* GetNarrow() { return reinterpret_cast<char*>(GetUnits() + m_Size + 1); }
+    };
+
+    /// An argument of a format.
+    class Piece {
+    public:
+        explicit Piece(long number);
+        explicit Piece(int number) : Piece(static_cast<long>(number)) {}
+        explicit Piece(const char16_t* text) : m_Text(text) {}
+        explicit Piece(const AString& text) : m_Text(text.GetUnits()) {}
+        Piece(const Piece&) = delete;
+        Piece& operator=(const Piece&) = delete;
+        ~Piece() = default;
+
+        std::u16string_view GetText() const { return m_Text; }
+
+    private:
+        std::array<char16_t, 20> m_Digits = {}; ///< of the longest number, with its sign
+        std::u16string_view m_Text;
     };
 
     Text* Share() const {
@@ -119,33 +146,38 @@ private:
     }
     static void Release(Text* text) {
         if (text != nullptr && --text->m_Users == 0)
-            delete text;
+            ::operator delete(text);
     }
-    static Text* Make(std::u16string units) { return units.empty() ? nullptr : new Text{std::move(units)}; }
-    const std::u16string& GetUnits() const { return m_Text == nullptr ? k_NoUnits : m_Text->m_Units; }
-
-    /// The units of a text of this handle's own, which isn't empty.
-    std::u16string& ChangeUnits();
-
-    static std::u16string ToText(long value);
-    static std::u16string ToText(int value) { return ToText(static_cast<long>(value)); }
-    static std::u16string ToText(const char16_t* text) { return text; }
-    static std::u16string ToText(const AString& text) { return text.GetUnits(); }
-    void FormatPieces(const AString& format, const std::vector<std::u16string>& pieces);
-
-    static const std::u16string k_NoUnits;
+    /// A text with room for both forms, which are to be filled in.
+    static Text* Allocate(size_t size, size_t narrowSize);
+    static Text* Make(std::u16string_view units);
+    static Text* MakeOpen(std::u16string_view units);
+    std::u16string_view GetUnits() const {
+        return m_Text == nullptr ? std::u16string_view(u"") : std::u16string_view(m_Text->GetUnits(), m_Text->m_Size);
+    }
+    void FormatPieces(const wchar_t* format, std::initializer_list<Piece> pieces);
 
     Text* m_Text = nullptr;
 };
 
 namespace io {
 
+/// Whether a key tells the whole text, as that of up to seven plain characters does: texts with this key are equal. Any
+/// other key is a hash.
+constexpr bool IsWholeKey_G(uint64_t key) { return key >> 63 == 0; }
+/// What `AString(narrow).GetKeyNoCase()` gives, without making it. Nothing where a character isn't of 7 bits.
+std::optional<uint64_t> KeyNoCase_G(std::string_view narrow);
+
 /// Whether two narrow texts are equal when the letters A to Z are folded: what `AString::CompareNoCase` tells of their
 /// wide forms, without making them.
-/// `HasEqualLettersNoCase_G` is its part for texts of one size.
+/// `HasEqualLettersNoCase_G` is its part for texts of one size. Most texts that differ do so in their first letter, and
+/// most that are equal are so in their case too.
 bool HasEqualLettersNoCase_G(std::string_view a, std::string_view b);
 inline bool EqualsNoCase_G(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && HasEqualLettersNoCase_G(a, b);
+    constexpr int k_CaseBit = 'a' - 'A';
+    if (a.size() != b.size() || (!a.empty() && ((a.front() ^ b.front()) & ~k_CaseBit) != 0))
+        return false;
+    return a == b || HasEqualLettersNoCase_G(a, b);
 }
 
 } // namespace io

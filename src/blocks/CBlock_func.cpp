@@ -71,8 +71,8 @@ std::optional<TreeView> CBlock_func::FindFunc(std::string_view name) const {
     return std::nullopt;
 }
 
-const CBlock_func* CBlock_func::FuncOfReference(const Node& node) {
-    return node.GetKind() == NodeKind::k_Reference ? dynamic_cast<const CBlock_func*>(node.GetReference()) : nullptr;
+const CBlock_func* CBlock_func::ToFunc(const CStreamio_object* target) {
+    return dynamic_cast<const CBlock_func*>(target);
 }
 
 bool CBlock_func::Enter(const TreeView& parent, const Node& node) {
@@ -90,17 +90,17 @@ bool CBlock_func::Enter(const TreeView& parent, const Node& node) {
 }
 
 CBlock_func& CBlock_func::operator<<(bool value) {
-    Change().Append(Node::OfBool(value));
+    Change().AppendValue(value);
     return *this;
 }
 
 CBlock_func& CBlock_func::operator<<(int value) {
-    Change().Append(Node::OfInt(value));
+    Change().AppendValue(value);
     return *this;
 }
 
 CBlock_func& CBlock_func::operator<<(double value) {
-    Change().Append(Node::OfDouble(value));
+    Change().AppendValue(value);
     return *this;
 }
 

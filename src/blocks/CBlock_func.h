@@ -109,11 +109,15 @@ public:
 
 private:
     friend class FuncRange;
+    friend class FuncView;
 
     template <class T>
     CBlock_func& ReadValue(T& value);
     /// The func that the node refers to; null for any other node.
-    static const CBlock_func* FuncOfReference(const Node& node);
+    static const CBlock_func* FuncOfReference(const Node& node) {
+        return node.GetKind() == NodeKind::k_Reference ? ToFunc(node.GetReference()) : nullptr;
+    }
+    static const CBlock_func* ToFunc(const CStreamio_object* target);
     /// Becomes the func at `node`, which stands in the tree of `parent`. False, with nothing changed, when there is
     /// none.
     bool Enter(const TreeView& parent, const Node& node);

@@ -23,12 +23,23 @@ public:
     CBlock_open_func& operator=(const CBlock_open_func&) = delete;
     ~CBlock_open_func() { m_Nodes.Close(); }
 
-    CBlock_open_func& operator<<(bool value) { return Append(Node::OfBool(value)); }
-    CBlock_open_func& operator<<(int value) { return Append(Node::OfInt(value)); }
-    CBlock_open_func& operator<<(double value) { return Append(Node::OfDouble(value)); }
+    CBlock_open_func& operator<<(bool value) { return Append(value); }
+    CBlock_open_func& operator<<(int value) { return Append(value); }
+    CBlock_open_func& operator<<(double value) { return Append(value); }
     CBlock_open_func& operator<<(std::string_view text) {
         m_Nodes.AppendText(NodeKind::k_Text, text);
         return *this;
+    }
+    /// The keyword must be there as long as the tree.
+    CBlock_open_func& operator<<(const Keyword& keyword) {
+        m_Nodes.AppendValue(keyword);
+        return *this;
+    }
+    CBlock_open_func& operator<<(const Keyword&& keyword) = delete;
+    /// The same as one `<<` for each of the values, which are truth values, numbers and keywords, in less time.
+    template <class... Values>
+    void AppendRow(const Values&... values) {
+        m_Nodes.AppendRow(values...);
     }
     CBlock_open_func& operator<<(const char* text) { return *this << std::string_view(text); }
     CBlock_open_func& operator<<(const AString& text) { return *this << text.GetNarrow(); }
@@ -36,8 +47,9 @@ public:
 private:
     CBlock_open_func(NodeList& nodes, std::string_view name) : m_Nodes(nodes) { m_Nodes.Open(NodeKind::k_Func, name); }
 
-    CBlock_open_func& Append(const Node& node) {
-        m_Nodes.Append(node);
+    template <class Value>
+    CBlock_open_func& Append(Value value) {
+        m_Nodes.AppendValue(value);
         return *this;
     }
 

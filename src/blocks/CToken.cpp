@@ -9,7 +9,7 @@ namespace io {
 
 const char CToken::mACharEmptyString[1] = "";
 
-CToken::CToken(NodeKind kind, std::string_view text) : m_Node(Node::OfText(kind, text, Node::k_ShortText)) {
+CToken::CToken(NodeKind kind, std::string_view text) : m_Node(kind, text, Node::k_ShortText) {
     if (!m_Node.HasShortText())
         m_LongText = text;
 }
@@ -59,6 +59,10 @@ bool NodeValue::Query(double& value) const {
         value = m_Node.GetInt();
         return true;
     case NodeKind::k_Word: {
+        if (const std::optional<int64_t> whole = ParseDigits_G(m_Text)) {
+            value = static_cast<double>(*whole);
+            return true;
+        }
         const NumberText number = ParseNumber_G(m_Text);
         if (number.m_Kind == NumberText::Kind::k_None)
             return false;

@@ -128,17 +128,17 @@ std::optional<CToken> NeutralReader::ParseValue() {
 
 std::optional<CToken> NeutralReader::ParseBareValue(std::string_view text) {
     if (text == "true" || text == "false")
-        return CToken::OfNode(Node::OfBool(text == "true"));
+        return CToken::OfNode(Node(NodeKind::k_Bool, text == "true"));
     int whole = 0;
     const char* end = text.data() + text.size();
     const auto [wholeEnd, wholeError] = std::from_chars(text.data(), end, whole);
     if (wholeError == std::errc() && wholeEnd == end)
-        return CToken::OfNode(Node::OfInt(whole));
+        return CToken::OfNode(Node(NodeKind::k_Int, whole));
     double number = 0.0;
     const auto [numberEnd, error] = std::from_chars(text.data(), end, number);
     if (error != std::errc() || numberEnd != end)
         return {};
-    return CToken::OfNode(Node::OfDouble(number));
+    return CToken::OfNode(Node(NodeKind::k_Double, number));
 }
 
 std::optional<std::string> NeutralReader::ReadString() {

@@ -12,10 +12,11 @@ namespace io {
 namespace {
 
 constexpr size_t k_BufferSize = size_t{256} * 1024;
+constexpr size_t k_Slack = 16; ///< behind the buffer's end, for copies of a fixed size
 
 bool IsNothing(const Node& node) { return node.GetKind() == NodeKind::k_Reference && node.GetReference() == nullptr; }
 
-bool IsValue(const Node& node) { return !node.HasChildren() && node.GetKind() != NodeKind::k_Reference; }
+bool IsValue(const Node& node) { return node.GetKind() < NodeKind::k_Func; }
 
 /// The first node from `node` on that stands for something.
 const Node* SkipNothing(const Node* node, const Node* end) {
@@ -46,7 +47,7 @@ bool HasSpecial(std::string_view text) {
 } // namespace
 
 NeutralWriter::NeutralWriter(CAbstract_ostream& stream)
-    : m_Stream(stream), m_Buffer(std::make_unique_for_overwrite<char[]>(k_BufferSize)), m_At(m_Buffer.get()),
+    : m_Stream(stream), m_Buffer(std::make_unique_for_overwrite<char[]>(k_BufferSize + k_Slack)), m_At(m_Buffer.get()),
       m_End(m_At + k_BufferSize) {}
 
 void NeutralWriter::Write(const TreeView& tree) {
@@ -83,14 +84,21 @@ void NeutralWriter::WriteFrames() {
     HandOn();
 }
 
+/// Most funcs hold values alone, and are over at once.
 void NeutralWriter::Enter(const Node* node, const Node* end, size_t depth) {
-    const bool isBlock = node->GetKind() == NodeKind::k_Block;
-    PutName(node->GetText());
-    if (isBlock)
+    const Node* first = node->GetFirstChild();
+    PutName(*node);
+    if (node->GetKind() == NodeKind::k_Block) {
         PutMark(" {\n");
+        m_Frames.push_back({.m_Next = first, .m_End = end, .m_Depth = depth, .m_IsBlock = true});
+        return;
+    }
+    Put('(');
+    const Node* rest = PutRow(first, end);
+    if (rest == end)
+        PutEnd(')');
     else
-        Put('(');
-    m_Frames.push_back({.m_Next = node->GetFirstChild(), .m_End = end, .m_Depth = depth, .m_IsBlock = isBlock});
+        m_Frames.push_back({.m_Next = rest, .m_End = end, .m_Depth = depth, .m_IsFirst = rest == first});
 }
 
 void NeutralWriter::Enter(const CBlock_deferred& block, size_t depth) {
@@ -134,8 +142,13 @@ void NeutralWriter::Leave() {
         m_Deferred.pop_back();
     if (frame.m_IsBlock)
         PutLineStart(frame.m_Depth);
-    Put(frame.m_IsBlock ? '}' : ')');
-    if (frame.m_IsBlock || m_Frames.empty() || m_Frames.back().m_IsBlock)
+    PutEnd(frame.m_IsBlock ? '}' : ')');
+}
+
+/// Ends what stands in the innermost frame. A func among arguments has the rest of them on its line.
+void NeutralWriter::PutEnd(char mark) {
+    Put(mark);
+    if (m_Frames.empty() || m_Frames.back().m_IsBlock)
         Put('\n');
 }
 
@@ -154,16 +167,21 @@ void NeutralWriter::WriteItem(Frame& block) {
     }
 }
 
-/// All values up to the next func, and that func's beginning.
+/// All up to the next func that isn't over at once, and that func's beginning.
 void NeutralWriter::WriteArguments(Frame& func) {
-    const Node* node = func.m_Next;
-    for (; node != func.m_End && IsValue(*node); node = node->GetNext()) {
-        StartArgument(func);
-        PutValue(*node, NodeValue(*node).GetText());
+    const size_t depth = m_Frames.size();
+    while (m_Frames.size() == depth && func.m_Next != func.m_End) {
+        const Node& node = *func.m_Next;
+        if (IsValue(node)) {
+            func.m_Next = node.GetNext();
+            StartArgument(func);
+            PutValue(node, NodeValue(node).GetText());
+        } else if (!IsNothing(node)) {
+            WriteFuncArgument(func);
+        } else {
+            ++func.m_Next;
+        }
     }
-    func.m_Next = node;
-    if (node != func.m_End && !IsNothing(*node))
-        WriteFuncArgument(func);
 }
 
 void NeutralWriter::WriteFuncArgument(Frame& func) {
@@ -176,6 +194,24 @@ void NeutralWriter::WriteFuncArgument(Frame& func) {
         EnterReference(*argument.GetReference(), depth);
     else
         Enter(&argument, argument.GetNext(), depth);
+}
+
+/// Puts values on one line, up to the first node that is none, and returns that.
+const Node* NeutralWriter::PutRow(const Node* first, const Node* end) {
+    const Node* node = first;
+    for (; node != end && IsValue(*node); node += node->GetOwnNodes()) {
+        if (node != first)
+            PutMark(", ");
+        if (node->GetKind() == NodeKind::k_Double)
+            PutNumber(node->GetDouble());
+        else if (const Keyword* keyword = node->GetKeyword())
+            PutKeyword(*keyword);
+        else if (node->GetKind() == NodeKind::k_Text)
+            PutText(*node);
+        else
+            PutValue(*node, NodeValue(*node).GetText());
+    }
+    return node;
 }
 
 /// Puts what stands ahead of an argument. Returns the depth of its line.
@@ -242,12 +278,40 @@ void NeutralWriter::PutNumber(double value) {
 }
 
 void NeutralWriter::PutLineStart(size_t depth) {
-    constexpr size_t k_AtOnce = 64;
     while (depth != 0) {
-        const size_t count = std::min(depth, k_AtOnce);
-        std::memset(MakeRoom(count), '\t', count);
+        const size_t count = std::min(depth, k_Slack);
+        std::memset(MakeRoom(count), '\t', k_Slack);
         depth -= count;
     }
+}
+
+void NeutralWriter::PutKeyword(const Keyword& keyword) {
+    char* at = MakeRoom(Keyword::k_Room + 2);
+    *at = '"';
+    at = keyword.Put(at + 1);
+    *at = '"';
+    m_At = at + 1;
+}
+
+/// A short text in a node is copied with what stands behind it: to copy a known size is quicker.
+void NeutralWriter::PutText(const Node& text) {
+    const std::string_view view = text.GetText();
+    if (!text.HasShortText() || HasSpecial(view)) {
+        PutString(view);
+        return;
+    }
+    char* at = MakeRoom(view.size() + 2);
+    *at = '"';
+    std::memcpy(at + 1, view.data(), Node::k_ShortText);
+    at[view.size() + 1] = '"';
+}
+
+void NeutralWriter::PutName(const Node& node) {
+    const std::string_view name = node.GetText();
+    if (node.HasShortText() && IsIdentifier(name))
+        std::memcpy(MakeRoom(name.size()), name.data(), Node::k_ShortText);
+    else
+        PutName(name);
 }
 
 void NeutralWriter::PutName(std::string_view name) {

@@ -1,6 +1,8 @@
 #ifndef QRL_BLOCKS_NODE_H
 #define QRL_BLOCKS_NODE_H
 
+#include "blocks/Keyword.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -28,16 +30,17 @@ enum class NodeKind : uint8_t {
 /// A func, block or named value is followed at once by the nodes of what it holds, and knows how many they are (its
 /// extent, itself included); so the next sibling is one addition away, a copy of a subtree is a copy of memory, and
 /// nothing that walks, copies or frees a tree needs the call stack. Short texts lie in the node itself, long ones in
-/// the nodes behind it, which then count as part of it. A tree so needs nothing of the file that it came from.
+/// the nodes behind it, which then count as part of it, and keywords in the program. A tree so needs nothing of the
+/// file that it came from.
 ///
 /// Layout of the 16 bytes: kind, size of the text, then 14 bytes of text, or 10 bytes of name and the extent, or 6
-/// unused bytes and the value.
+/// unused bytes and the value or the keyword's address.
 class Node {
 public:
     static constexpr size_t k_ShortText = 14;
     static constexpr size_t k_ShortName = 10;
 
-    Node() : Node(NodeKind::k_Empty) {}
+    Node() = default;
 
     NodeKind GetKind() const { return m_Kind; }
     bool HasChildren() const { return m_Kind >= NodeKind::k_Func && m_Kind <= NodeKind::k_NamedValue; }
@@ -45,10 +48,14 @@ public:
     /// The text of a word or text, the name of a func, block or named value. Valid as long as the node stays where it
     /// is.
     std::string_view GetText() const {
-        if (m_TextSize != k_LongText)
+        if (HasShortText())
             return {m_Payload, m_TextSize};
+        if (const Keyword* keyword = GetKeyword())
+            return keyword->GetText();
         return {reinterpret_cast<const char*>(this + 1) + sizeof(uint64_t), GetLongSize()};
     }
+    /// What the text is, when it is a keyword; else null.
+    const Keyword* GetKeyword() const { return m_TextSize == k_IsKeyword ? Load<const Keyword*>(k_ValueAt) : nullptr; }
 
     int GetInt() const { return Load<int32_t>(k_ValueAt); }
     double GetDouble() const { return Load<double>(k_ValueAt); }
@@ -65,47 +72,40 @@ public:
 
     uint32_t GetExtentField() const { return Load<uint32_t>(k_ExtentAt); }
     void SetExtent(uint32_t extent) { Store(k_ExtentAt, extent); }
-    bool HasShortText() const { return m_TextSize != k_LongText; }
+    /// Whether the text lies in the node itself.
+    bool HasShortText() const { return m_TextSize <= k_ShortText; }
 
     /// How many further nodes a text of `size` bytes needs when it is too long for its node.
     static constexpr size_t NodesForLongText(size_t size) {
         return (sizeof(uint64_t) + size + sizeof(Node) - 1) / sizeof(Node);
     }
 
-    static Node OfInt(int32_t value) { return OfValue(NodeKind::k_Int, value); }
-    static Node OfDouble(double value) { return OfValue(NodeKind::k_Double, value); }
-    static Node OfBool(bool value) { return OfValue(NodeKind::k_Bool, value); }
-    static Node OfReference(void* target) { return OfValue(NodeKind::k_Reference, target); }
+    /// A value of a kind that has one: a number, a truth value, or what a reference leads to.
+    template <class Value>
+    Node(NodeKind kind, Value value) : m_Kind(kind) {
+        Store(k_ValueAt, value);
+    }
+
+    /// A text that is a keyword.
+    explicit Node(const Keyword& keyword) : m_Kind(NodeKind::k_Text), m_TextSize(k_IsKeyword) {
+        Store(k_ValueAt, &keyword);
+    }
 
     /// A node of `kind` whose text is `text` when that is at most `room` bytes long; otherwise its text is to be put
     /// behind it with `PutLongText`.
-    static Node OfText(NodeKind kind, std::string_view text, size_t room) {
-        Node node(kind);
+    Node(NodeKind kind, std::string_view text, size_t room) : m_Kind(kind) {
         if (text.size() <= room) {
-            node.m_TextSize = static_cast<uint8_t>(text.size());
-            std::memcpy(node.m_Payload, text.data(), text.size());
+            m_TextSize = static_cast<uint8_t>(text.size());
+            std::memcpy(m_Payload, text.data(), text.size());
         } else {
-            node.m_TextSize = k_LongText;
+            m_TextSize = k_LongText;
         }
-        return node;
     }
 
-    /// The same for a word whose text is short and lies in memory that can be read for `k_ShortText` bytes: the copy of
-    /// a fixed size is what makes reading a file fast.
-    static Node OfShortWord(const char* text, size_t size) {
-        Node node(NodeKind::k_Word);
-        node.m_TextSize = static_cast<uint8_t>(size);
-        std::memcpy(node.m_Payload, text, k_ShortText);
-        return node;
-    }
-
-    /// The same for a func with a short name.
-    static Node OfShortName(const char* name, size_t size, uint32_t extent) {
-        Node node(NodeKind::k_Func);
-        node.m_TextSize = static_cast<uint8_t>(size);
-        std::memcpy(node.m_Payload, name, k_ShortText);
-        node.SetExtent(extent);
-        return node;
+    /// The same for a text of `size` bytes, short enough for its node, that lies in memory which can be read for
+    /// `k_ShortText` bytes: the copy of a fixed size is what makes reading a file fast.
+    Node(NodeKind kind, const char* paddedText, size_t size) : m_Kind(kind), m_TextSize(static_cast<uint8_t>(size)) {
+        std::memcpy(m_Payload, paddedText, k_ShortText);
     }
 
     /// Puts `text` and its size into the nodes from `to` on.
@@ -118,17 +118,9 @@ public:
 
 private:
     static constexpr uint8_t k_LongText = 0xFF;
+    static constexpr uint8_t k_IsKeyword = 0xFE;
     static constexpr size_t k_ValueAt = 6;
     static constexpr size_t k_ExtentAt = 10;
-
-    explicit Node(NodeKind kind) : m_Kind(kind) {}
-
-    template <class T>
-    static Node OfValue(NodeKind kind, T value) {
-        Node node(kind);
-        node.Store(k_ValueAt, value);
-        return node;
-    }
 
     template <class T>
     T Load(size_t at) const {
@@ -148,7 +140,7 @@ private:
         return size;
     }
 
-    NodeKind m_Kind;
+    NodeKind m_Kind = NodeKind::k_Empty;
     uint8_t m_TextSize = 0;
     char m_Payload[k_ShortText] = {};
 };

@@ -19,7 +19,7 @@ constexpr size_t k_MaxNodes = std::numeric_limits<uint32_t>::max();
 } // namespace
 
 NodeList::NodeList(NodeKind rootKind, std::string_view name) : m_Storage(Allocate(k_FirstCapacity)) {
-    const Node root = Node::OfText(rootKind, name, Node::k_ShortName);
+    const Node root(rootKind, name, Node::k_ShortName);
     Append(root);
     if (!root.HasShortText())
         Node::PutLongText(MakeRoom(Node::NodesForLongText(name.size())), name);
@@ -35,11 +35,9 @@ NodeList NodeList::CopyOf(const Node* root, const Node* end) {
     return copy;
 }
 
-void NodeList::AppendText(NodeKind kind, std::string_view text) {
-    const Node node = Node::OfText(kind, text, Node::k_ShortText);
-    Append(node);
-    if (!node.HasShortText())
-        Node::PutLongText(MakeRoom(Node::NodesForLongText(text.size())), text);
+void NodeList::AppendLongText(NodeKind kind, std::string_view text) {
+    Append(Node(kind, text, Node::k_ShortText));
+    Node::PutLongText(MakeRoom(Node::NodesForLongText(text.size())), text);
 }
 
 void NodeList::AppendToken(const CToken& token) {
@@ -59,22 +57,14 @@ void NodeList::AppendTree(const Node* root, const Node* end) {
 }
 
 void NodeList::AppendReference(CStreamio_object* target) {
-    Append(Node::OfReference(target));
+    Append(Node(NodeKind::k_Reference, target));
     const Node* added = GetEnd() - 1;
     CountReferences(added, added + 1);
 }
 
-/// While a node is open, its extent holds the index of the one that was innermost before it: no stack is needed,
-/// whatever the depth.
-void NodeList::Open(NodeKind kind, std::string_view name) {
-    Node node = Node::OfText(kind, name, Node::k_ShortName);
-    const size_t longNodes = node.HasShortText() ? 0 : Node::NodesForLongText(name.size());
-    Node* room = MakeRoom(1 + longNodes);
-    node.SetExtent(m_Storage->m_InnermostOpen);
-    *room = node;
-    if (longNodes != 0)
-        Node::PutLongText(room + 1, name);
-    m_Storage->m_InnermostOpen = static_cast<uint32_t>(room - m_Storage->GetNodes());
+void NodeList::OpenLong(NodeKind kind, std::string_view name) {
+    Open(new (MakeRoom(1)) Node(kind, name, Node::k_ShortName));
+    Node::PutLongText(MakeRoom(Node::NodesForLongText(name.size())), name);
 }
 
 void NodeList::ShrinkToFit() {

@@ -3,6 +3,7 @@
 
 #include "blocks/Node.h"
 
+#include <new>
 #include <string_view>
 #include <utility>
 
@@ -42,16 +43,32 @@ public:
     /// Bytes of memory that the tree takes, without what stands in it by reference.
     size_t GetMemory() const { return GetBytes(m_Storage->m_Capacity); }
 
-    /// Appends one value to the innermost open node.
+    /// Appends one value to the innermost open node. Each is made where it stands: copied as a whole right after it was
+    /// written piece by piece, it would keep the processor waiting.
     void Append(const Node& node) { *MakeRoom(1) = node; }
-    /// Appends a word or text.
-    void AppendText(NodeKind kind, std::string_view text);
+    void AppendValue(bool value) { NewNode(MakeRoom(1), value); }
+    void AppendValue(int value) { NewNode(MakeRoom(1), value); }
+    void AppendValue(double value) { NewNode(MakeRoom(1), value); }
+    void AppendValue(const Keyword& keyword) { NewNode(MakeRoom(1), keyword); }
+    /// Appends values and keywords, of which each is one node.
+    template <class... Values>
+    void AppendRow(const Values&... values) {
+        Node* at = MakeRoom(sizeof...(values));
+        (NewNode(at++, values), ...);
+    }
+    /// Appends a word or text. Here, so that a text that is known when this is compiled costs no call.
+    void AppendText(NodeKind kind, std::string_view text) {
+        if (text.size() <= Node::k_ShortText)
+            new (MakeRoom(1)) Node(kind, text, Node::k_ShortText);
+        else
+            AppendLongText(kind, text);
+    }
     /// Appends a word that lies in memory which can be read for `Node::k_ShortText` bytes, however short the word is.
     void AppendPaddedWord(std::string_view word) {
         if (word.size() <= Node::k_ShortText)
-            Append(Node::OfShortWord(word.data(), word.size()));
+            new (MakeRoom(1)) Node(NodeKind::k_Word, word.data(), word.size());
         else
-            AppendText(NodeKind::k_Word, word);
+            AppendLongText(NodeKind::k_Word, word);
     }
     void AppendToken(const CToken& token);
     /// Appends a copy of the tree from `root` to `end`, which must not lie in this list.
@@ -60,16 +77,18 @@ public:
     void AppendReference(CStreamio_object* target);
 
     /// Appends a func, block or named value without children; what is appended next goes into it, until `Close`.
-    void Open(NodeKind kind, std::string_view name);
+    void Open(NodeKind kind, std::string_view name) {
+        if (name.size() <= Node::k_ShortName)
+            Open(new (MakeRoom(1)) Node(kind, name, Node::k_ShortName));
+        else
+            OpenLong(kind, name);
+    }
     /// The same for a func whose name lies in memory that can be read for `Node::k_ShortText` bytes.
     void OpenPadded(std::string_view name) {
-        if (name.size() > Node::k_ShortName) {
-            Open(NodeKind::k_Func, name);
-            return;
-        }
-        Node* node = MakeRoom(1);
-        *node = Node::OfShortName(name.data(), name.size(), m_Storage->m_InnermostOpen);
-        m_Storage->m_InnermostOpen = static_cast<uint32_t>(node - m_Storage->GetNodes());
+        if (name.size() <= Node::k_ShortName)
+            Open(new (MakeRoom(1)) Node(NodeKind::k_Func, name.data(), name.size()));
+        else
+            OpenLong(NodeKind::k_Func, name);
     }
     /// Closes the innermost open node. Each `Open` needs its `Close` before the tree is read.
     void Close() {
@@ -121,6 +140,18 @@ private:
         m_Storage->m_Size += count;
         return room;
     }
+    /// While a node is open, its extent holds the index of the one that was innermost before it: no stack is needed,
+    /// whatever the depth.
+    void Open(Node* last) {
+        last->SetExtent(m_Storage->m_InnermostOpen);
+        m_Storage->m_InnermostOpen = static_cast<uint32_t>(last - m_Storage->GetNodes());
+    }
+    static void NewNode(Node* at, bool value) { new (at) Node(NodeKind::k_Bool, value); }
+    static void NewNode(Node* at, int value) { new (at) Node(NodeKind::k_Int, value); }
+    static void NewNode(Node* at, double value) { new (at) Node(NodeKind::k_Double, value); }
+    static void NewNode(Node* at, const Keyword& keyword) { new (at) Node(keyword); }
+    void OpenLong(NodeKind kind, std::string_view name);
+    void AppendLongText(NodeKind kind, std::string_view text);
     void Reserve(size_t count);
     void Resize(size_t capacity);
     bool GrowAsExpected(size_t capacity);

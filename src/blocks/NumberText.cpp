@@ -1,9 +1,7 @@
 #include "blocks/NumberText.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstddef>
 #include <cstdlib>
 #include <string>
 
@@ -57,23 +55,16 @@ NumberText ParseReal(const char* first, const char* end, bool isNegative) {
 } // namespace
 
 NumberText ParseNumber_G(std::string_view text) {
-    const char* at = text.data();
-    const char* end = at + text.size();
-    const bool isNegative = at != end && *at == '-';
-    if (at != end && (*at == '-' || *at == '+'))
-        ++at;
-    constexpr ptrdiff_t k_DigitsOfAnyInt64 = 18;
-    const char* first = at;
-    const char* limit = at + std::min(end - at, k_DigitsOfAnyInt64);
-    int64_t whole = 0;
-    while (at != limit && IsDigit(*at))
-        whole = whole * 10 + (*at++ - '0');
-    if (at == end && at != first) {
-        whole = isNegative ? -whole : whole;
-        return {NumberText::Kind::k_Whole, whole, static_cast<double>(whole)};
-    }
+    if (const std::optional<int64_t> digits = ParseDigits_G(text))
+        return {NumberText::Kind::k_Whole, *digits, static_cast<double>(*digits)};
+    const char* first = text.data();
+    const char* end = first + text.size();
+    const bool isNegative = first != end && *first == '-';
+    if (first != end && (*first == '-' || *first == '+'))
+        ++first;
     if (!HasNumberForm(first, end))
         return {};
+    int64_t whole = 0;
     const char* signedFirst = isNegative ? first - 1 : first;
     const auto [wholeEnd, error] = std::from_chars(signedFirst, end, whole);
     if (wholeEnd == end && error == std::errc())

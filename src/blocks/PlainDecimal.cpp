@@ -5,7 +5,9 @@
 #include <bit>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace io {
 
@@ -13,12 +15,12 @@ namespace {
 
 __extension__ using uint128_t = unsigned __int128;
 
-constexpr int k_Room = 32;
-
 // Between these, what has a fraction is shorter with a point than with an exponent, and all products fit 128 bits.
 constexpr double k_Smallest = 0.01;
 constexpr double k_Largest = 1e6;
 constexpr double k_LargestWhole = 1e5; ///< from here on a whole number may be shorter with an exponent
+
+constexpr ptrdiff_t k_RoomOfWhole = 6; ///< digits ahead of the point
 
 constexpr int k_MantissaBits = 52;
 constexpr uint64_t k_HiddenBit = uint64_t{1} << k_MantissaBits;
@@ -36,25 +38,39 @@ struct Decimal {
     int m_Decimals = 0;
 };
 
-/// Without the zeros at its end.
-char* PutDecimal(char* to, Decimal decimal) {
-    char text[k_Room];
-    const char* begin = text;
-    const char* end = std::to_chars(text, text + k_Room, decimal.m_Digits).ptr;
-    const auto wholeDigits = static_cast<int>(end - begin) - decimal.m_Decimals;
-    if (wholeDigits > 0) {
-        to = std::copy_n(begin, wholeDigits, to);
-        begin += wholeDigits;
-    } else {
-        *to++ = '0';
+/// The texts of 00 to 99.
+constexpr auto k_Pairs = [] {
+    std::array<char, 200> pairs = {};
+    for (size_t i = 0; i < pairs.size(); ++i)
+        pairs[i] = static_cast<char>('0' + (i % 2 == 0 ? i / 20 : i / 2 % 10));
+    return pairs;
+}();
+
+/// Puts `digits` digits, an even number, of `value`.
+template <size_t digits>
+void PutDigits_T(char* to, uint32_t value) {
+    for (size_t at = digits; at != 0; at -= 2) {
+        std::memcpy(to + at - 2, &k_Pairs[value % 100 * 2], 2);
+        value /= 100;
     }
-    while (end != begin && end[-1] == '0')
-        --end;
+}
+
+/// Puts `decimal`, the whole part of which is `whole`, without the zeros at its end but with one decimal at least.
+char* PutDecimal(char* to, Decimal decimal, uint32_t whole) {
+    constexpr size_t k_Decimals = 18;
+    constexpr uint64_t k_EightDigits = 100'000'000;
+    const auto decimals = static_cast<size_t>(decimal.m_Decimals);
+    const uint64_t fraction = (decimal.m_Digits - whole * k_PowersOfTen[decimals]) * k_PowersOfTen[k_Decimals - decimals];
+    to = std::to_chars(to, to + k_RoomOfWhole, whole).ptr;
     *to++ = '.';
-    if (begin == end)
-        *to++ = '0';
-    to = std::fill_n(to, std::max(-wholeDigits, 0), '0');
-    return std::copy(begin, end, to);
+    PutDigits_T<2>(to, static_cast<uint32_t>(fraction / (k_EightDigits * k_EightDigits)));
+    PutDigits_T<8>(to + 2, static_cast<uint32_t>(fraction / k_EightDigits % k_EightDigits));
+    PutDigits_T<8>(to + 10, static_cast<uint32_t>(fraction % k_EightDigits));
+    const char* first = to;
+    to += decimals;
+    while (to - 1 != first && to[-1] == '0')
+        --to;
+    return to;
 }
 
 /// `value` as a number of hundred thousandths, when it is the double next to one: no other text of up to 15 digits
@@ -123,7 +139,7 @@ char* TryPutDecimal(char* to, double value) {
         return nullptr;
     if (value < 0)
         *to++ = '-';
-    return PutDecimal(to, decimal);
+    return PutDecimal(to, decimal, static_cast<uint32_t>(size));
 }
 
 } // namespace io

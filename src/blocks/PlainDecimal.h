@@ -3,7 +3,7 @@
 
 namespace io {
 
-/// Puts the shortest decimal text that reads back to the bits of `value` at `to`, which has room for 24 bytes, with
+/// Puts the shortest decimal text that reads back to the bits of `value` at `to`, which has room for 32 bytes, with
 /// ".0" behind a whole number, and returns its end. Null, with nothing to be seen at `to`, for what isn't a usual
 /// length of a board (0 and 0.01 to 1e6), for numbers whose shortest text has an exponent, and for some rare ones
 /// between.

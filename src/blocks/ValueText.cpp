@@ -3,6 +3,7 @@
 #include "blocks/PlainDecimal.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -15,6 +16,13 @@ char* Put(char* to, std::string_view text) { return std::copy(text.begin(), text
 
 constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_'; }
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+constexpr auto k_IsLetterOrDigit = [] {
+    std::array<bool, 256> table = {};
+    for (size_t i = 0; i < table.size(); ++i)
+        table[i] = IsLetter(static_cast<char>(i)) || IsDigit(static_cast<char>(i));
+    return table;
+}();
 
 } // namespace
 
@@ -30,9 +38,12 @@ char* PutDouble(char* to, double value) {
 
 char* PutInt(char* to, int value) { return std::to_chars(to, to + k_NumberRoom, value).ptr; }
 
+/// Looks at all of the name, as nearly all of them are identifiers: that is quicker than to stop at the first.
 bool IsIdentifier(std::string_view name) {
-    return !name.empty() && IsLetter(name.front()) &&
-           std::all_of(name.begin(), name.end(), [](char c) { return IsLetter(c) || IsDigit(c); });
+    bool isIdentifier = !name.empty() && !IsDigit(name.front());
+    for (const char c : name)
+        isIdentifier &= k_IsLetterOrDigit[static_cast<unsigned char>(c)];
+    return isIdentifier;
 }
 
 std::string ValueText(const Node& node) {

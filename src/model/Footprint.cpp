@@ -6,7 +6,7 @@ Footprint::Footprint(AString footprintName, std::vector<FootprintPin*> footprint
     : name(std::move(footprintName)), pins(std::move(footprintPins)) {
     int32_t index = 0;
     for (const FootprintPin* pin : pins)
-        m_FirstByName.try_emplace(pin->name.GetFolded(), index++);
+        m_FirstByName.TryAdd(pin->name, index++);
 }
 
 int Footprint::GetPins(std::vector<FootprintPin*>& out) const {
@@ -20,6 +20,6 @@ FootprintPin* Footprint::FindPin(const AString& pinName) const {
 }
 
 int32_t Footprint::GetPinIndex(const AString& pinName) const {
-    const auto found = m_FirstByName.find(pinName.GetFolded());
-    return found == m_FirstByName.end() ? -1 : found->second;
+    const int32_t* found = m_FirstByName.Find(pinName);
+    return found == nullptr ? -1 : *found;
 }

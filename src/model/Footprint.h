@@ -3,10 +3,9 @@
 
 #include "blocks/AString.h"
 #include "model/FootprintPin.h"
+#include "model/NameIndex_T.h"
 
 #include <cstdint>
-#include <string>
-#include <unordered_map>
 #include <vector>
 
 /// The pins that every component of one kind has. Made once its pins are complete; owns none of them.
@@ -29,7 +28,7 @@ public:
     const std::vector<FootprintPin*> pins; ///< in the order in which they were made
 
 private:
-    std::unordered_map<std::u16string, int32_t> m_FirstByName; ///< by folded name
+    NameIndex_T<int32_t> m_FirstByName;
 };
 
 #endif

@@ -1,19 +1,17 @@
 #include "model/NameMap.h"
 
 const AString& NameMap::Get(const AString& reference) {
-    const auto [entry, isNew] = m_Names.try_emplace(reference);
+    const auto [name, isNew] = m_Names.TryAdd(reference, {});
     if (isNew)
-        ++m_Uses[{}];
-    return entry->second;
+        ++*m_Uses.TryAdd({}, 0).first;
+    return *name;
 }
 
 void NameMap::Set(const AString& reference, const AString& name) {
-    const auto [entry, isNew] = m_Names.try_emplace(reference, name);
+    const auto [current, isNew] = m_Names.TryAdd(reference, name);
     if (!isNew) {
-        const auto before = m_Uses.find(entry->second.GetFolded());
-        if (--before->second == 0)
-            m_Uses.erase(before);
-        entry->second = name;
+        --*m_Uses.Find(*current);
+        *current = name;
     }
-    ++m_Uses[name.GetFolded()];
+    ++*m_Uses.TryAdd(name, 0).first;
 }

@@ -31,8 +31,22 @@ geom::Box Net::ComputeBox() const {
         box.Extend(via->location);
     for (const Surface* surface : surfaces)
         box.Extend(surface->outline.polygon.GetBox());
-    for (const Trace* trace : traces)
-        for (const PathVertex& vertex : trace->vertices)
+    for (size_t i = 0; i < traces.size(); ++i) {
+        FetchTraceBehind(i);
+        for (const PathVertex& vertex : traces[i]->vertices)
             box.Extend(geom::Point(vertex.x, vertex.y));
+    }
     return box;
+}
+
+/// First the record, then the vertices that it leads to.
+void Net::FetchTraceBehind(size_t index) const {
+    constexpr size_t k_Ahead = 4;
+    constexpr size_t k_Vertices = 8;
+    if (index + 2 * k_Ahead >= traces.size())
+        return;
+    __builtin_prefetch(traces[index + 2 * k_Ahead]);
+    const PathVertex* vertices = traces[index + k_Ahead]->vertices.data();
+    for (size_t i = 0; i < k_Vertices; ++i)
+        __builtin_prefetch(vertices + i);
 }

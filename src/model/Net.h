@@ -4,6 +4,7 @@
 #include "blocks/AString.h"
 #include "lib/math/geometry/Box.h"
 
+#include <cstddef>
 #include <set>
 #include <vector>
 
@@ -31,6 +32,10 @@ public:
     /// The box around the places of the vias, the outlines of the surfaces and the vertices of the traces, taken as
     /// points: neither their widths nor their arcs count. Empty for a net without any.
     geom::Box ComputeBox() const;
+
+    /// For a walk over the traces, at `index` now. They lie all over memory, since the file is ordered by layers, so
+    /// those that come next are asked for ahead of time.
+    void FetchTraceBehind(size_t index) const;
 
     void AddVia(Via* via) { vias.push_back(via); }
     void AddSurface(Surface* surface) { surfaces.push_back(surface); }

@@ -2,11 +2,11 @@
 #define QRL_MODEL_RECORDLIST_T_H
 
 #include "blocks/AString.h"
+#include "model/NameIndex_T.h"
 
 #include <cstddef>
 #include <memory>
-#include <string>
-#include <unordered_map>
+#include <string_view>
 #include <vector>
 
 /// The records of one kind in the order in which they were made. Owns them; a record stays where it is until the list
@@ -22,15 +22,13 @@ public:
         Made* added = record.get();
         m_Owned.push_back(std::move(record));
         m_Records.push_back(added);
-        m_FirstByName.try_emplace(added->GetName().GetFolded(), added);
+        m_FirstByName.TryAdd(added->GetName(), added);
         return added;
     }
 
     /// The first record whose name equals `name` but for the case of the letters A to Z; null when there is none.
-    Record* Find(const AString& name) const {
-        const auto found = m_FirstByName.find(name.GetFolded());
-        return found == m_FirstByName.end() ? nullptr : found->second;
-    }
+    Record* Find(const AString& name) const { return Get(m_FirstByName.Find(name)); }
+    Record* FindNarrow(std::string_view name) const { return Get(m_FirstByName.FindNarrow(name)); }
 
     /// Replaces `out` by the records, which stay the list's, and returns how many there are.
     int CopyTo(std::vector<Record*>& out) const {
@@ -45,9 +43,11 @@ public:
     Iterator end() const { return m_Records.end(); }
 
 private:
+    static Record* Get(Record* const* found) { return found == nullptr ? nullptr : *found; }
+
     std::vector<std::unique_ptr<Record>> m_Owned;
     std::vector<Record*> m_Records;
-    std::unordered_map<std::u16string, Record*> m_FirstByName; ///< by folded name
+    NameIndex_T<Record*> m_FirstByName;
 };
 
 #endif

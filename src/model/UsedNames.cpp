@@ -1,6 +1,6 @@
 #include "model/UsedNames.h"
 
-#include <vector>
+#include <utility>
 
 namespace {
 
@@ -14,24 +14,26 @@ AString GetNumbered(const AString& base, int32_t n) {
 
 } // namespace
 
-/// Numbers that were found taken are passed over by hops, and each search leads all hops that it took to its own end.
-/// That bounds n searches by n log n hops, whatever the numbers at which they start.
+/// Numbers that were found taken are passed over by hops, and each search leads all hops that it took behind its own
+/// end, which is taken then. That bounds n searches by n log n hops, whatever the numbers at which they start.
 AString UsedNames::AddNumbered(const AString& base, int32_t n) {
-    Onward& onward = m_OnwardByBase[base];
-    std::vector<int32_t> taken;
+    Onward& onward = *m_OnwardByBase.TryAdd(base, {}).first;
     AString name;
     int32_t candidate = GetNext(n);
     for (;;) {
         const auto hop = onward.find(candidate);
-        if (hop == onward.end()) {
-            name = GetNumbered(base, candidate);
-            if (Add(name))
-                break;
+        if (hop != onward.end()) {
+            candidate = hop->second;
+            continue;
         }
-        taken.push_back(candidate);
-        candidate = hop == onward.end() ? GetNext(candidate) : hop->second;
+        name = GetNumbered(base, candidate);
+        if (Add(name))
+            break;
+        candidate = GetNext(candidate);
     }
-    for (const int32_t number : taken)
-        onward[number] = candidate;
+    for (int32_t taken = GetNext(n); taken != candidate;) {
+        const auto [hop, isNew] = onward.try_emplace(taken, GetNext(taken));
+        taken = std::exchange(hop->second, GetNext(candidate));
+    }
     return name;
 }

@@ -57,6 +57,11 @@ Net* ZukenPCBParser::GetNet(const AString& name) {
     return net != nullptr ? net : nets.Add(std::make_unique<Net>(known));
 }
 
+Net* ZukenPCBParser::GetNetOfText(std::string_view name) {
+    Net* net = nets.FindNarrow(name);
+    return net != nullptr ? net : GetNet(AString(name));
+}
+
 int ZukenPCBParser::GetPadPolygons(const BasePad& pad, std::vector<geom::Polygon>& out) {
     if (const auto* polygon = dynamic_cast<const PadPolygon*>(&pad))
         out.push_back(polygon->polygon);

@@ -2,6 +2,7 @@
 #define QRL_MODEL_ZUKENPCBPARSER_H
 
 #include "blocks/CBlock.h"
+#include "blocks/FuncView.h"
 #include "blocks/LongFileName.h"
 #include "lib/math/geometry/Arc.h"
 #include "lib/math/geometry/Box.h"
@@ -29,6 +30,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 namespace io {
@@ -79,6 +81,7 @@ public:
     /// The net of that name, which is made when there is none. An empty name stands for "ZUKEN_DUMMY". The first
     /// spelling that was met stays the net's name.
     Net* GetNet(const AString& name);
+    Net* GetNetOfText(std::string_view name);
     /// Appends the outlines of a pad, about the pad's origin, and returns how many `out` then holds. A thermal pad is
     /// reported and has none.
     static int GetPadPolygons(const BasePad& pad, std::vector<geom::Polygon>& out);
@@ -193,7 +196,7 @@ public:
     // ZukenPCBParser_Lines.cpp
 
     /// Makes the traces of one line: it is cut where its width changes. Always true.
-    bool ReadLine(const io::CBlock_func& block, Net* net, const AString& layerName);
+    bool ReadLine(io::FuncView block, Net* net, const AString& layerName);
 
     // ZukenPCBParser_CornerRounds.cpp
 
@@ -208,17 +211,17 @@ public:
 
     /// Makes a surface of each outline, with its voids, all moved to `origin`, turned by `angle` degrees and, when
     /// `mirrored`, turned the other way and mirrored about the vertical line through `origin`. Always true.
-    bool ReadSurface(const io::CBlock_func& block, Net* net, const AString& layerName, geom::Point origin, double angle,
+    bool ReadSurface(io::FuncView block, Net* net, const AString& layerName, geom::Point origin, double angle,
         bool mirrored);
     /// Reads a closed outline of points and arcs. Always true.
-    bool ReadLoop(const io::CBlock_func& block, geom::Polygon& polygon) const;
+    bool ReadLoop(io::FuncView block, geom::Polygon& polygon) const;
 
     // ZukenPCBParser_Vias.cpp
 
     /// Reads padstack instances of the board or of a pin. Always true.
     bool ReadPadstackLayer(const io::CBlock_func& layer, bool mirrorLayers, FootprintPin* pin);
     /// Appends the names of the layers on which `item` makes no connection, and returns how many `names` then holds.
-    int ReadNoConnectLayers(const io::CBlock_func& item, std::vector<AString>& names) const;
+    int ReadNoConnectLayers(io::FuncView item, std::vector<AString>& names) const;
     /// Draws a padstack that the neutral file has no form for as surfaces of the net. Any other, and null, is passed
     /// over.
     void AddPadstackSurfaces(
@@ -268,14 +271,14 @@ private:
     // ZukenPCBParser_Layout.cpp
 
     void ReadConductiveItem(
-        io::CBlock_func& item, const AString& layerName, geom::Point origin, double angle, bool mirrored);
+        io::FuncView item, const AString& layerName, geom::Point origin, double angle, bool mirrored);
     void ReadReference(
-        const io::CBlock_func& refer, const AString& layerName, geom::Point origin, double angle, bool mirrored);
-    void ReadPlacedPad(io::CBlock_func& item, const AString& layerName);
+        io::FuncView refer, const AString& layerName, geom::Point origin, double angle, bool mirrored);
+    void ReadPlacedPad(io::FuncView item, const AString& layerName);
 
     // ZukenPCBParser_Vias.cpp
 
-    void ReadPadstackInstance(io::CBlock_func& item, bool mirrorLayers, const FootprintPin* pin);
+    void ReadPadstackInstance(io::FuncView item, bool mirrorLayers, const FootprintPin* pin);
 
     // ZukenPCBParser_TextFile.cpp
 

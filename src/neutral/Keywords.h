@@ -1,6 +1,8 @@
 #ifndef QRL_NEUTRAL_KEYWORDS_H
 #define QRL_NEUTRAL_KEYWORDS_H
 
+#include "blocks/Keyword.h"
+
 #include <array>
 #include <string_view>
 
@@ -66,8 +68,8 @@ inline constexpr char k_LayoutNet[] = "LayoutNet";
 inline constexpr char k_Via[] = "Via";
 inline constexpr char k_Graphics[] = "Graphics";
 inline constexpr char k_Path[] = "Path";
-inline constexpr char k_Round[] = "Round";
-inline constexpr char k_RadiallyMitered[] = "Radiallymitered";
+inline constexpr io::Keyword k_Round("Round");
+inline constexpr io::Keyword k_RadiallyMitered("Radiallymitered");
 inline constexpr char k_PolygonWithVoids[] = "PolygonWithVoids";
 inline constexpr char k_Layer[] = "Layer";
 inline constexpr char k_Voids[] = "voids";

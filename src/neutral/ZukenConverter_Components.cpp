@@ -7,16 +7,14 @@ namespace {
 
 /// The empty texts and the 1 have no source in the board. The letter is what designators of this kind of part begin
 /// with: R for R12.
-io::CBlock_func MakeCompDef(const Component& component) {
-    io::CBlock_func func(keyword::k_CompDef);
+void WriteCompDef(const Component& component, io::CBlock& block) {
+    io::CBlock_open_func func(block, keyword::k_CompDef);
     func << "" << component.footprint->name << "" << component.name.Left(1) << 1;
-    return func;
 }
 
 void WriteTerminal(const AString& pinName, io::CBlock& block) {
-    const std::string name = pinName.QRL_ANSI();
     io::CBlock_open_func func(block, keyword::k_Terminal);
-    func << name << name << "A" << false;
+    func << pinName << pinName << "A" << false;
 }
 
 } // namespace
@@ -30,8 +28,8 @@ bool ZukenConverter::WriteComponents(const Components& components, io::CBlock& r
 bool ZukenConverter::WriteComponentDef(const Component& component, io::CBlock& block) {
     if (component.footprint == nullptr)
         return false;
-    io::CBlock definition(component.id);
-    definition << MakeCompDef(component);
+    io::CBlock definition(component.id.GetNarrow());
+    WriteCompDef(component, definition);
     for (const FootprintPin* pin : component.footprint->pins)
         WriteTerminal(pin->name, definition);
     block << definition;

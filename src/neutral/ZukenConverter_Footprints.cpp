@@ -26,13 +26,15 @@ bool ZukenConverter::WriteFootprints(const Footprints& footprints, io::CBlock& r
     return true;
 }
 
+/// The pins of a footprint are made one by one: a connector of many thousands never stands in memory as a whole.
 bool ZukenConverter::WriteFootprint(const Footprint& footprint, io::CBlock& block) {
-    io::CBlockPtr pins(keyword::k_FpPins);
-    for (const FootprintPin* pin : footprint.pins)
-        if (pin->padstack != nullptr)
-            *pins << MakePinDef(*pin);
-    io::CBlock footprintBlock(footprint.name);
-    footprintBlock << pins;
+    const auto write = [&footprint](size_t index, io::CBlock& items) {
+        const FootprintPin& pin = *footprint.pins[index];
+        if (pin.padstack != nullptr)
+            items << MakePinDef(pin);
+    };
+    io::CBlock footprintBlock(footprint.name.GetNarrow());
+    footprintBlock << io::CBlockDeferredPtr(new io::CBlock_deferred(keyword::k_FpPins, footprint.pins.size(), write));
     block << footprintBlock;
     return true;
 }

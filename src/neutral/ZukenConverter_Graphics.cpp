@@ -60,8 +60,8 @@ void AppendVoid(int32_t id, const SurfaceLoop& loop, io::CBlock& voids) {
 /// Vertex(x, y, start width, end width, "Round", "Radiallymitered", 0)
 void AppendPathVertex(const PathVertex& vertex, io::CBlock_open_func& path) {
     io::CBlock_open_func func(path, keyword::k_Vertex);
-    func << vertex.x << vertex.y << vertex.startWidth << vertex.endWidth << keyword::k_Round
-         << keyword::k_RadiallyMitered << vertex.reserved;
+    func.AppendRow(vertex.x, vertex.y, vertex.startWidth, vertex.endWidth, keyword::k_Round, keyword::k_RadiallyMitered,
+        vertex.reserved);
 }
 
 /// A height stands behind the vertex at which its arc begins; at the last one none does.

@@ -4,44 +4,44 @@
 #include "neutral/ThermalVoids.h"
 #include "neutral/ZukenConverter.h"
 
+#include <string_view>
+
 namespace {
 
 /// name("type"): how a component or net stands in the netlist.
-io::CBlock_func MakeEntry(const AString& name, const AString& text) {
-    io::CBlock_func func(name);
+void WriteEntry(const AString& name, std::string_view text, io::CBlock& block) {
+    io::CBlock_open_func func(block, name.GetNarrow());
     func << text;
-    return func;
 }
 
-io::CBlock_func MakeTextProp(const char* word, const AString& text) {
-    io::CBlock_func prop(keyword::k_TextProp);
+void WriteTextProp(const char* word, const AString& text, io::CBlock& block) {
+    io::CBlock_open_func prop(block, keyword::k_TextProp);
     prop << word << text;
-    return prop;
 }
 
 io::CBlock MakeProperties(const Component& component) {
     io::CBlock properties(keyword::k_Properties);
     if (!component.partNumber.empty())
-        properties << MakeTextProp(keyword::k_PartNumber, component.partNumber);
+        WriteTextProp(keyword::k_PartNumber, component.partNumber, properties);
     if (!component.value.empty())
-        properties << MakeTextProp(keyword::k_Value, component.value);
+        WriteTextProp(keyword::k_Value, component.value, properties);
     if (!component.active) {
-        io::CBlock_func prop(keyword::k_CheckboxProp);
+        io::CBlock_open_func prop(properties, keyword::k_CheckboxProp);
         prop << keyword::k_Activate << false;
-        properties << prop;
     }
     return properties;
 }
 
 io::CBlock MakeCompInst(const Component& component) {
     io::CBlock block(keyword::k_CompInst);
-    block << MakeEntry(component.name, component.id) << MakeProperties(component);
+    WriteEntry(component.name, component.id.GetNarrow(), block);
+    block << MakeProperties(component);
     return block;
 }
 
 io::CBlock MakeNet(const Net& net) {
     io::CBlock block(keyword::k_Net);
-    block << MakeEntry(net.name, keyword::k_Signal);
+    WriteEntry(net.name, keyword::k_Signal, block);
     for (const AString& pinRef : net.pinRefs)
         block << io::CBlock_named_value(keyword::k_NetPin, pinRef);
     return block;

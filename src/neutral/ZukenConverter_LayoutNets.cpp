@@ -39,10 +39,13 @@ void ZukenConverter::WriteLayoutNetItem(const Net& net, size_t index, io::CBlock
         return;
     }
     index -= net.vias.size();
-    if (index < net.surfaces.size())
+    if (index < net.surfaces.size()) {
         WriteSurfaceGraphics(*net.surfaces[index], block);
-    else
-        WriteTraceGraphics(*net.traces[index - net.surfaces.size()], block);
+        return;
+    }
+    index -= net.surfaces.size();
+    net.FetchTraceBehind(index);
+    WriteTraceGraphics(*net.traces[index], block);
 }
 
 void ZukenConverter::WriteVia(const Via& via, io::CBlock& block) {

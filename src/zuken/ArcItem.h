@@ -1,7 +1,7 @@
 #ifndef QRL_ZUKEN_ARCITEM_H
 #define QRL_ZUKEN_ARCITEM_H
 
-#include "blocks/CBlock_func.h"
+#include "blocks/FuncView.h"
 #include "lib/math/geometry/Arc.h"
 
 /// One `arc` of a line or an outline, with its lengths in the unit of the output. What isn't there is 0.
@@ -13,7 +13,7 @@
 ///
 /// `center` is no point. It leads from the begin to the centre, and counts the radius as `unitScale` units.
 struct ArcItem {
-    ArcItem(io::CBlock_func& list, double coordScale, double unitScale);
+    ArcItem(io::FuncView list, double coordScale, double unitScale);
 
     geom::Point GetCenter() const;
     geom::Arc GetArc() const { return geom::Arc(geom::Segment(begin, end), direction, GetCenter()); }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <bit>
-#include <functional>
+#include <cstdint>
 
 namespace {
 
@@ -10,63 +10,103 @@ namespace {
 constexpr int64_t k_OrderStep = int64_t{1} << 20;
 
 constexpr size_t k_FewestSlots = 16;
-constexpr size_t k_SlotsPerStart = 2; ///< at least: a search then ends after a slot or two
 
-size_t HashOf(geom::Point point) {
-    constexpr size_t k_Spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio: neighbours end far apart
-    const std::hash<double> hash;
-    const size_t mixed = (hash(double(point.GetX())) * k_Spread) ^ hash(double(point.GetY()));
-    return (mixed * k_Spread) >> 32;
+/// How full the table of starts gets: a search without a find then passes some eight slots, which lie side by side.
+constexpr size_t k_FullNumerator = 3;
+constexpr size_t k_FullDenominator = 4;
+
+uint64_t Mix(uint64_t bits) {
+    constexpr uint64_t k_Spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
+    bits = (bits ^ bits >> 32) * k_Spread;
+    bits = (bits ^ bits >> 32) * k_Spread;
+    return bits ^ bits >> 32;
+}
+
+/// The sum makes a negative zero a positive one.
+uint64_t GetBits(geom::Unit value) { return std::bit_cast<uint64_t>(double(value) + 0.0); }
+
+uint32_t HashOf(geom::Point point) {
+    return static_cast<uint32_t>(Mix(Mix(GetBits(point.GetX())) ^ GetBits(point.GetY())));
 }
 
 } // namespace
 
-/// Entered from the end, each arc comes ahead of all that have its start.
-ArcRing::ArcRing(const std::vector<geom::Arc>& arcs, size_t corners) {
-    const auto count = static_cast<Index>(arcs.size());
+/// Entered from the end, each arc comes ahead of all that have its start. A corner takes up two new starts at most, and
+/// one place.
+ArcRing::ArcRing(size_t count, size_t corners, const std::function<geom::Arc(size_t)>& getArc) {
     if (count == 0)
         return;
     m_First = 0;
-    m_Nodes.reserve(count + 2 * corners);
+    m_Nodes.reserve(count + corners);
     m_Nodes.resize(count);
-    GrowStarts((count + corners) * k_SlotsPerStart);
-    for (Index i = count; i-- > 0;) {
-        m_Nodes[i] = {arcs[i], i == 0 ? count - 1 : i - 1, i + 1 == count ? 0 : i + 1, k_None, i * k_OrderStep};
+    MakeRoomForStarts(count + 2 * corners);
+    const auto end = static_cast<Index>(count);
+    for (Index i = end; i-- > 0;) {
+        m_Nodes[i] = {getArc(i), i == 0 ? end - 1 : i - 1, i + 1 == end ? 0 : i + 1, k_None, i * k_OrderStep};
         EnterStart(i);
     }
 }
 
 ArcRing::Index ArcRing::FindByStart(geom::Point start) const {
-    return m_Starts.empty() ? k_None : m_Starts[FindSlot(start)].m_First;
+    if (m_Starts.empty())
+        return k_None;
+    const Index first = m_Starts[FindSlot(start, HashOf(start))].m_First;
+    return first == k_Left ? k_None : first;
+}
+
+void ArcRing::Expect(geom::Point start) const {
+    if (!m_Starts.empty())
+        __builtin_prefetch(&m_Starts[HashOf(start) & (m_Starts.size() - 1)]);
 }
 
 /// The slot of the start, or the free one in which it would stand.
-size_t ArcRing::FindSlot(geom::Point start) const {
-    size_t slot = HashOf(start) & (m_Starts.size() - 1);
-    while (m_Starts[slot].m_Bringer != k_None && m_Nodes[m_Starts[slot].m_Bringer].m_Arc.GetStart() != start)
-        slot = (slot + 1) & (m_Starts.size() - 1);
-    return slot;
+size_t ArcRing::FindSlot(geom::Point start, uint32_t hash) const {
+    const auto isHere = [&](const Start& slot) {
+        return slot.m_Hash == hash && slot.m_First != k_Left && m_Nodes[slot.m_First].m_Arc.GetStart() == start;
+    };
+    size_t at = hash & (m_Starts.size() - 1);
+    while (m_Starts[at].m_First != k_None && !isHere(m_Starts[at]))
+        at = (at + 1) & (m_Starts.size() - 1);
+    return at;
 }
 
-void ArcRing::GrowStarts(size_t slots) {
-    std::vector<Start> old(std::bit_ceil(std::max(slots, k_FewestSlots)));
+/// Slots that were left are free again in the new table.
+void ArcRing::MakeRoomForStarts(size_t count) {
+    const size_t slots = std::bit_ceil(std::max(count * k_FullDenominator / k_FullNumerator + 1, k_FewestSlots));
+    std::pmr::vector<Start> old(slots, &m_Memory);
     old.swap(m_Starts);
-    for (const Start& start : old)
-        if (start.m_Bringer != k_None)
-            m_Starts[FindSlot(m_Nodes[start.m_Bringer].m_Arc.GetStart())] = start;
+    m_UsedSlots = 0;
+    for (const Start& start : old) {
+        if (start.m_First == k_None || start.m_First == k_Left)
+            continue;
+        m_Starts[FindSlot(m_Nodes[start.m_First].m_Arc.GetStart(), start.m_Hash)] = start;
+        ++m_UsedSlots;
+    }
 }
 
 void ArcRing::ReplaceCorner(Index index, const geom::Arc& before, const geom::Arc& rounding, const geom::Arc* after) {
+    Expect(rounding.GetStart());
+    if (after != nullptr)
+        Expect(after->GetStart());
     const Index previous = GetPrevious(index);
-    if (previous != index) {
+    Index middle = index;
+    if (previous == index) {
+        m_Nodes[index].m_Arc = before;
+        middle = InsertBehind(index, rounding);
+    } else {
         if (index == m_First)
             MoveLastToFront();
-        Remove(index);
+        m_Nodes[previous].m_Arc = before;
+        ReplaceArc(index, rounding);
     }
-    m_Nodes[previous].m_Arc = before;
-    const Index middle = InsertBehind(previous, rounding);
     if (after != nullptr)
         InsertBehind(middle, *after);
+}
+
+void ArcRing::ReplaceArc(Index index, const geom::Arc& arc) {
+    LeaveStart(index);
+    m_Nodes[index].m_Arc = arc;
+    EnterStart(index);
 }
 
 std::vector<geom::Arc> ArcRing::GetArcs() const {
@@ -91,16 +131,6 @@ ArcRing::Index ArcRing::InsertBehind(Index index, const geom::Arc& arc) {
     m_Nodes[next].m_Previous = inserted;
     EnterStart(inserted);
     return inserted;
-}
-
-/// The place of a removed arc isn't used again.
-void ArcRing::Remove(Index index) {
-    LeaveStart(index);
-    const Node& node = m_Nodes[index];
-    m_Nodes[node.m_Previous].m_Next = node.m_Next;
-    m_Nodes[node.m_Next].m_Previous = node.m_Previous;
-    if (index == m_First)
-        m_First = node.m_Next;
 }
 
 void ArcRing::MoveLastToFront() {
@@ -133,27 +163,33 @@ void ArcRing::SpreadOrder() {
 
 /// A start that isn't a number is never found.
 void ArcRing::EnterStart(Index index) {
-    Node& node = m_Nodes[index];
-    if (node.m_Arc.GetStart() != node.m_Arc.GetStart())
+    const geom::Point start = m_Nodes[index].m_Arc.GetStart();
+    if (start != start)
         return;
-    if (m_StartCount * k_SlotsPerStart >= m_Starts.size())
-        GrowStarts(2 * m_Starts.size());
-    Start& start = m_Starts[FindSlot(node.m_Arc.GetStart())];
-    if (start.m_Bringer == k_None) {
-        start.m_Bringer = index;
-        ++m_StartCount;
+    if (m_UsedSlots * k_FullDenominator >= m_Starts.size() * k_FullNumerator)
+        MakeRoomForStarts(2 * m_Nodes.size());
+    const uint32_t hash = HashOf(start);
+    Start& slot = m_Starts[FindSlot(start, hash)];
+    if (slot.m_First == k_None) {
+        slot.m_Hash = hash;
+        ++m_UsedSlots;
     }
-    Index* link = &start.m_First;
-    while (*link != k_None && m_Nodes[*link].m_Order < node.m_Order)
+    Index* link = &slot.m_First;
+    while (*link != k_None && m_Nodes[*link].m_Order < m_Nodes[index].m_Order)
         link = &m_Nodes[*link].m_NextOfSameStart;
-    node.m_NextOfSameStart = *link;
+    m_Nodes[index].m_NextOfSameStart = *link;
     *link = index;
 }
 
 void ArcRing::LeaveStart(Index index) {
-    Index* link = &m_Starts[FindSlot(m_Nodes[index].m_Arc.GetStart())].m_First;
-    while (*link != k_None && *link != index)
+    const geom::Point start = m_Nodes[index].m_Arc.GetStart();
+    if (start != start)
+        return;
+    Start& slot = m_Starts[FindSlot(start, HashOf(start))];
+    Index* link = &slot.m_First;
+    while (*link != index)
         link = &m_Nodes[*link].m_NextOfSameStart;
-    if (*link == index)
-        *link = m_Nodes[index].m_NextOfSameStart;
+    *link = m_Nodes[index].m_NextOfSameStart;
+    if (slot.m_First == k_None)
+        slot.m_First = k_Left;
 }

@@ -3,8 +3,12 @@
 
 #include "lib/math/geometry/Arc.h"
 
+#include "lib/utils/Arena.h"
+
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <memory_resource>
 #include <vector>
 
 /// A list of arcs that is taken as cyclic, and in which corners are rounded.
@@ -17,16 +21,23 @@ public:
     using Index = uint32_t;
     static constexpr Index k_None = UINT32_MAX;
 
-    /// At most 2^30 arcs, of which about `corners` are to be replaced.
-    explicit ArcRing(const std::vector<geom::Arc>& arcs, size_t corners = 0);
+    /// The arcs `getArc(i)` for each i below `count`, of which about `corners` are to be replaced. At most 2^30.
+    ArcRing(size_t count, size_t corners, const std::function<geom::Arc(size_t)>& getArc);
+    explicit ArcRing(const std::vector<geom::Arc>& arcs, size_t corners = 0)
+        : ArcRing(arcs.size(), corners, [&arcs](size_t index) { return arcs[index]; }) {}
 
     const geom::Arc& operator[](Index index) const { return m_Nodes[index].m_Arc; }
+    size_t GetSize() const { return m_Nodes.size(); }
+    /// k_None when there is none.
+    Index GetFirst() const { return m_First; }
     /// The arc ahead of the first is the last. A single arc is its own neighbour.
     Index GetPrevious(Index index) const { return m_Nodes[index].m_Previous; }
     Index GetNext(Index index) const { return m_Nodes[index].m_Next; }
 
     /// The first arc of the list whose start is exactly `start`, -0.0 and 0.0 being equal; k_None when there is none.
     Index FindByStart(geom::Point start) const;
+    /// Has the memory at hand that a search for `start` looks at first.
+    void Expect(geom::Point start) const;
     /// The next arc of the list with the same start; k_None when there is none.
     Index GetNextOfSameStart(Index index) const { return m_Nodes[index].m_NextOfSameStart; }
 
@@ -45,27 +56,30 @@ private:
         Index m_NextOfSameStart = k_None;
         int64_t m_Order = 0; ///< grows along the list
     };
-    /// A start, and the arcs of the list that have it. An arc's start never changes, so that a start is known by the
-    /// first arc that brought it, also when that has left.
+    /// A start that arcs have or had. With the hash at hand no other arc is looked at but one that has the start.
     struct Start {
-        Index m_Bringer = k_None; ///< none: nobody uses this slot
-        Index m_First = k_None;   ///< of the list
+        uint32_t m_Hash = 0;
+        Index m_First = k_None; ///< of the arcs that have it, in the order of the list; k_Left when none has any more
     };
+    static constexpr Index k_Left = k_None - 1;
 
     Index InsertBehind(Index index, const geom::Arc& arc);
-    void Remove(Index index);
+    void ReplaceArc(Index index, const geom::Arc& arc);
     void MoveLastToFront();
     int64_t GetOrderBehind(Index index);
     void SpreadOrder();
     void EnterStart(Index index);
     void LeaveStart(Index index);
-    size_t FindSlot(geom::Point start) const;
-    void GrowStarts(size_t slots);
+    size_t FindSlot(geom::Point start, uint32_t hash) const;
+    void MakeRoomForStarts(size_t count);
 
-    std::vector<Node> m_Nodes;
+    base::Arena m_Memory; ///< that others use when this is gone
+    std::pmr::vector<Node> m_Nodes{&m_Memory};
     Index m_First = k_None;
-    std::vector<Start> m_Starts; ///< a hash table with open addressing: a start stands in its slot or one of the next
-    size_t m_StartCount = 0;
+    /// A hash table with open addressing: a start stands in the slot of its hash or one of the next. A slot that is
+    /// left isn't used again.
+    std::pmr::vector<Start> m_Starts{&m_Memory};
+    size_t m_UsedSlots = 0;
 };
 
 #endif

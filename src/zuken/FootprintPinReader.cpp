@@ -31,7 +31,7 @@ void ZukenPCBParser::FootprintPinReader::ReadPin(io::CBlock_func& pin) {
 
 /// `fpadstack` is the one keyword whose case matters: the format's established behaviour; kept as it is.
 void ZukenPCBParser::FootprintPinReader::ReadItem(io::CBlock_func& item) {
-    if (item.Name().Compare("fpadstack") == 0)
+    if (item.GetTree().GetName() == "fpadstack")
         ReadPadstackItem(item);
     else if (item.NameIs("footLayer"))
         item >> m_Source.m_LayerName;
@@ -82,13 +82,13 @@ void ZukenPCBParser::FootprintPinReader::MakePinOfPad(const AString& padName, ge
 }
 
 void ZukenPCBParser::FootprintPinReader::MakePin(Padstack* padstack, geom::Point location) {
-    const auto first = m_FirstByName.find(m_Source.m_Name.GetFolded());
-    const bool isFurther = first != m_FirstByName.end() && m_UsedNames.Contains(m_Source.m_Name);
-    FootprintPin* firstPin = isFurther ? first->second : nullptr;
+    FootprintPin* const* first = m_FirstByName.Find(m_Source.m_Name);
+    const bool isFurther = first != nullptr && m_UsedNames.Contains(m_Source.m_Name);
+    FootprintPin* firstPin = isFurther ? *first : nullptr;
     const AString name = MakeUniqueName(m_UsedNames, m_Source.m_Name);
     FootprintPin* pin = m_Parser.footprintPins.Make(padstack, name, location, geom::k_Origin, m_Source.m_Angle);
     m_Pins.push_back(pin);
-    m_FirstByName.try_emplace(name.GetFolded(), pin);
+    m_FirstByName.TryAdd(name, pin);
     if (firstPin != nullptr)
         firstPin->siblingPins.push_back(pin);
 }

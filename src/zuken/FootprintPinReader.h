@@ -1,11 +1,10 @@
 #ifndef QRL_ZUKEN_FOOTPRINTPINREADER_H
 #define QRL_ZUKEN_FOOTPRINTPINREADER_H
 
+#include "model/NameIndex_T.h"
 #include "model/UsedNames.h"
 #include "model/ZukenPCBParser.h"
 
-#include <string>
-#include <unordered_map>
 #include <vector>
 
 /// Makes the pins of one footprint, and the pads and padstacks that only they use.
@@ -44,7 +43,7 @@ private:
     Source m_Source;
     std::vector<FootprintPin*> m_Pins;
     UsedNames m_UsedNames;
-    std::unordered_map<std::u16string, FootprintPin*> m_FirstByName; ///< by folded name
+    NameIndex_T<FootprintPin*> m_FirstByName;
 };
 
 #endif

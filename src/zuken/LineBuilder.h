@@ -7,13 +7,16 @@
 #include "model/Trace.h"
 #include "zuken/ArcItem.h"
 
+#include <cstddef>
 #include <vector>
 
 /// Cuts a line, of which points and arcs come in order, into traces of one width each.
 class LineBuilder {
 public:
     LineBuilder(RecordPool_T<Trace>& traces, const AString& layerName, Net* net)
-        : m_Traces(traces), m_LayerName(layerName), m_Net(net) {}
+        : m_Traces(traces), m_LayerName(layerName), m_Net(net) {
+        m_Vertices.reserve(k_UsualVertices);
+    }
 
     /// The width that runs at the end of the line so far; 0 ahead of the first.
     double GetWidth() const { return m_Width; }
@@ -30,6 +33,8 @@ public:
     void Finish();
 
 private:
+    static constexpr size_t k_UsualVertices = 16; ///< at most, of a line
+
     bool IsCutBy(double width) const;
     void AddVertex(geom::Point point, double height, double width);
     void CloseTrace();

@@ -1,18 +1,5 @@
 #include "zuken/ListValues.h"
 
-namespace {
-
-/// The value that the first child of that name begins with, or the value of nothing.
-template <class T>
-T ReadChild_T(const io::CBlock_func& list, const char* name) {
-    T value{};
-    if (const std::optional<io::TreeView> child = list.FindFunc(name))
-        io::CBlock_func(*child) >> value;
-    return value;
-}
-
-} // namespace
-
 io::CBlock_func GetChild_G(const io::CBlock_func& list, const char* name) {
     const std::optional<io::TreeView> child = list.FindFunc(name);
     return child ? io::CBlock_func(*child) : io::CBlock_func(name);
@@ -24,9 +11,13 @@ bool FindChild_G(const io::CBlock_func& list, io::CBlock_func& query) {
     return isFound;
 }
 
-double GetRealOf_G(const io::CBlock_func& list, const char* name) { return ReadChild_T<double>(list, name); }
+double GetRealOf_G(io::FuncView list, const char* name) {
+    double value = 0.0;
+    list.Find(name) >> value;
+    return value;
+}
 
-AString GetTextOf_G(const io::CBlock_func& list, const char* name) { return ReadChild_T<AString>(list, name); }
+AString GetTextOf_G(io::FuncView list, const char* name) { return AString(list.Find(name).GetText()); }
 
 void ReadName_G(io::CBlock_func& list, AString& name) {
     bool isRead = false;
@@ -60,14 +51,13 @@ AString ReadPinName_G(io::CBlock_func& pin) {
     return name;
 }
 
-geom::Point ReadPoint_G(io::CBlock_func& list, double scale) {
+geom::Point ReadPoint_G(io::FuncView list, double scale) {
     double x = 0.0;
     double y = 0.0;
     list >> x >> y;
     return {x * scale, y * scale};
 }
 
-geom::Point GetPointOf_G(const io::CBlock_func& list, double scale) {
-    io::CBlock_func pt = GetChild_G(list, "pt");
-    return ReadPoint_G(pt, scale);
+geom::Point GetPointOf_G(io::FuncView list, double scale) {
+    return ReadPoint_G(list.Find("pt"), scale);
 }

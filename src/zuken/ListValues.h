@@ -1,7 +1,7 @@
 #ifndef QRL_ZUKEN_LISTVALUES_H
 #define QRL_ZUKEN_LISTVALUES_H
 
-#include "blocks/CBlock_func.h"
+#include "blocks/FuncView.h"
 #include "lib/math/geometry/Point.h"
 
 // What every reader asks of a list. Nothing here fails: what isn't there is empty or 0.
@@ -15,12 +15,12 @@ bool FindChild_G(const io::CBlock_func& list, io::CBlock_func& query);
 /// The number that the child of that name begins with; 0 where there is none.
 ///
 ///     (width 0.3)
-double GetRealOf_G(const io::CBlock_func& list, const char* name);
+double GetRealOf_G(io::FuncView list, const char* name);
 
 /// The text that the child of that name begins with. A number is no text: it leaves the result empty.
 ///
 ///     (footLayer PAD_A)
-AString GetTextOf_G(const io::CBlock_func& list, const char* name);
+AString GetTextOf_G(io::FuncView list, const char* name);
 
 /// Reads what `list` begins with as a name, which may be a text or a whole number. What is neither leaves `name` as it
 /// was.
@@ -37,12 +37,12 @@ void ReadAnyText_G(const io::CBlock_func& list, AString& text);
 ///     (pin A1)  (pin 7)
 AString ReadPinName_G(io::CBlock_func& pin);
 
-/// The next two numbers of `list`, times `scale`; a coordinate that isn't there is 0.
+/// The two numbers that `list` begins with, times `scale`; a coordinate that isn't there is 0.
 ///
 ///     (pt 1200 -50)
-geom::Point ReadPoint_G(io::CBlock_func& list, double scale);
+geom::Point ReadPoint_G(io::FuncView list, double scale);
 
 /// The position that the child `pt` tells, times `scale`.
-geom::Point GetPointOf_G(const io::CBlock_func& list, double scale);
+geom::Point GetPointOf_G(io::FuncView list, double scale);
 
 #endif

@@ -1,7 +1,7 @@
 #ifndef QRL_ZUKEN_POINTITEM_H
 #define QRL_ZUKEN_POINTITEM_H
 
-#include "blocks/CBlock_func.h"
+#include "blocks/FuncView.h"
 #include "lib/math/geometry/Point.h"
 
 #include <optional>
@@ -10,7 +10,7 @@
 ///
 ///     (pt 4643068 9825000 (tarc (r 30000)) (width 15000))
 struct PointItem {
-    PointItem(io::CBlock_func& list, double scale);
+    PointItem(io::FuncView list, double scale);
 
     geom::Point point;
     std::optional<double> cornerRadius; ///< of the arc that is wanted in place of the corner

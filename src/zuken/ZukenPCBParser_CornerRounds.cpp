@@ -9,14 +9,13 @@ constexpr double k_ShortestPiece = 1e-5;
 
 /// The pieces between the vertices. A piece has the height that stands at its end: the format's established behaviour,
 /// by which the height of each arc moves to the piece ahead of it.
-std::vector<geom::Arc> GetPieces(const std::vector<PathVertex>& vertices) {
-    std::vector<geom::Arc> pieces;
-    for (size_t i = 1; i < vertices.size(); ++i) {
-        const PathVertex& from = vertices[i - 1];
-        const PathVertex& to = vertices[i];
-        pieces.emplace_back(geom::Point(from.x, from.y), geom::Point(to.x, to.y), to.height);
-    }
-    return pieces;
+ArcRing MakeRing(const std::vector<PathVertex>& vertices, size_t corners) {
+    const auto getPiece = [&vertices](size_t index) {
+        const PathVertex& from = vertices[index];
+        const PathVertex& to = vertices[index + 1];
+        return geom::Arc(geom::Point(from.x, from.y), geom::Point(to.x, to.y), to.height);
+    };
+    return {vertices.empty() ? 0 : vertices.size() - 1, corners, getPiece};
 }
 
 PathVertex MakeVertex(geom::Point point, geom::Unit height, double width) {
@@ -31,15 +30,25 @@ PathVertex MakeVertex(geom::Point point, geom::Unit height, double width) {
 
 void ZukenPCBParser::ApplyCornerRounds(
     std::vector<PathVertex>& vertices, const std::vector<CornerRound>& rounds, double width) {
-    ArcRing arcs(GetPieces(vertices), rounds.size());
-    for (const CornerRound& round : rounds)
-        RoundCorner(arcs, geom::Point(round.x, round.y), round.radius);
+    ArcRing arcs = MakeRing(vertices, rounds.size());
+    for (size_t i = 0; i < rounds.size(); ++i) {
+        if (i + 1 < rounds.size())
+            arcs.Expect(geom::Point(rounds[i + 1].x, rounds[i + 1].y));
+        RoundCorner(arcs, geom::Point(rounds[i].x, rounds[i].y), rounds[i].radius);
+    }
     vertices.clear();
-    const std::vector<geom::Arc> pieces = arcs.GetArcs();
-    for (const geom::Arc& piece : pieces)
-        vertices.push_back(MakeVertex(piece.GetStart(), piece.GetHeight(), width));
-    if (!pieces.empty())
-        vertices.push_back(MakeVertex(pieces.back().GetEnd(), geom::k_NullUnit, width));
+    if (arcs.GetSize() == 0)
+        return;
+    if (vertices.capacity() <= arcs.GetSize())
+        std::vector<PathVertex>().swap(vertices); // ahead of the larger piece, so that both don't stand at once
+    vertices.reserve(arcs.GetSize() + 1);
+    ArcRing::Index index = arcs.GetFirst();
+    do {
+        vertices.push_back(MakeVertex(arcs[index].GetStart(), arcs[index].GetHeight(), width));
+        index = arcs.GetNext(index);
+    } while (index != arcs.GetFirst());
+    const geom::Arc& last = arcs[arcs.GetPrevious(index)];
+    vertices.push_back(MakeVertex(last.GetEnd(), geom::k_NullUnit, width));
 }
 
 /// The piece ahead of the rounding stays whatever its length, and both keep the heights that they had when they were

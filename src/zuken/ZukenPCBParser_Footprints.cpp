@@ -30,8 +30,9 @@ void ZukenPCBParser::ReadFootprint(io::CBlock_func& footprint) {
 AString ZukenPCBParser::MakeUniqueName(UsedNames& used, const AString& name) {
     if (used.Add(name))
         return name;
+    static const AString k_Separator = "_";
     std::vector<AString> tokens;
-    name.TokenizeString("_", tokens);
+    name.TokenizeString(k_Separator, tokens);
     if (tokens.empty())
         return name;
     int number = 0;

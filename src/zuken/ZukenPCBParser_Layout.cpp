@@ -12,8 +12,8 @@ bool IsPadstackLayer(const io::CBlock_func& layer) {
 }
 
 /// What an item's `geometry` holds under `shapeName`; an empty list where there is none.
-io::CBlock_func GetShape(const io::CBlock_func& item, const char* shapeName) {
-    return GetChild_G(GetChild_G(item, "geometry"), shapeName);
+io::FuncView GetShape(io::FuncView item, const char* shapeName) {
+    return item.Find("geometry").Find(shapeName);
 }
 
 } // namespace
@@ -34,7 +34,7 @@ bool ZukenPCBParser::ReadLayout(const io::CBlock_func& block, bool skipPadstacks
             int number = 0;
             conductive >> number;
             const AString layerName = GetConductiveLayerName(number);
-            for (io::CBlock_func& item : layer.Funcs())
+            for (const io::FuncView item : io::FuncView(layer).Funcs())
                 ReadConductiveItem(item, layerName, origin, angle, mirrored);
         } else if (!skipPadstacks && IsPadstackLayer(layer)) {
             ReadPadstackLayer(layer, mirrorLayers, pin);
@@ -46,18 +46,18 @@ bool ZukenPCBParser::ReadLayout(const io::CBlock_func& block, bool skipPadstacks
 /// (line (net GND) (geometry (line (vertex ...))))
 /// (refer (surface (net GND) (geometry (surface (vertex ...)))))
 void ZukenPCBParser::ReadConductiveItem(
-    io::CBlock_func& item, const AString& layerName, geom::Point origin, double angle, bool mirrored) {
+    io::FuncView item, const AString& layerName, geom::Point origin, double angle, bool mirrored) {
     if (item.NameIs("line")) {
-        const AString netName = GetTextOf_G(item, "net");
+        const std::string_view netName = item.Find("net").GetText();
         // Left over from the search for a fault of one board; it reports that net and changes nothing.
-        const bool isWatched = netName.CompareNoCase("SATA1_TX_DN") == 0;
+        const bool isWatched = io::EqualsNoCase_G(netName, "SATA1_TX_DN");
         QRL_ASSERT("ZukenPCBParser", "netName.CompareNoCase ( \"SATA1_TX_DN\" )", !isWatched);
-        ReadLine(GetShape(item, "line"), GetNet(netName), layerName);
+        ReadLine(GetShape(item, "line"), GetNetOfText(netName), layerName);
     } else if (item.NameIs("surface")) {
-        Net* net = GetNet(GetTextOf_G(item, "net"));
+        Net* net = GetNetOfText(item.Find("net").GetText());
         ReadSurface(GetShape(item, "surface"), net, layerName, geom::k_Origin, 0.0, false);
     } else if (item.NameIs("meshplane")) {
-        Net* net = GetNet(GetTextOf_G(item, "net"));
+        Net* net = GetNetOfText(item.Find("net").GetText());
         ReadSurface(GetShape(item, "meshplane"), net, layerName, geom::k_Origin, 0.0, false);
     } else if (item.NameIs("refer")) {
         ReadReference(item, layerName, origin, angle, mirrored);
@@ -68,22 +68,21 @@ void ZukenPCBParser::ReadConductiveItem(
 
 /// (refer (surface (net GND) (geometry (surface (vertex ...)))))
 void ZukenPCBParser::ReadReference(
-    const io::CBlock_func& refer, const AString& layerName, geom::Point origin, double angle, bool mirrored) {
-    io::CBlock_func surface = GetChild_G(refer, "surface");
-    Net* net = GetNet(GetTextOf_G(surface, "net"));
-    const io::CBlock_func geometry = GetChild_G(surface, "geometry");
+    io::FuncView refer, const AString& layerName, geom::Point origin, double angle, bool mirrored) {
+    const io::FuncView surface = refer.Find("surface");
+    Net* net = GetNetOfText(surface.Find("net").GetText());
+    const io::FuncView shape = GetShape(surface, "surface");
     // Without a geometry the outer surface is the shape.
-    geometry >> surface;
-    ReadSurface(surface, net, layerName, origin, angle, mirrored);
+    ReadSurface(shape ? shape : surface, net, layerName, origin, angle, mirrored);
 }
 
 /// A pad that stands on a layer by itself becomes a surface for each of its outlines.
 ///
 ///     (pad C160 (net GND) (pt 1450000 2018000) (angle 90))
-void ZukenPCBParser::ReadPlacedPad(io::CBlock_func& item, const AString& layerName) {
+void ZukenPCBParser::ReadPlacedPad(io::FuncView item, const AString& layerName) {
     AString name;
     item >> name;
-    Net* net = GetNet(GetTextOf_G(item, "net"));
+    Net* net = GetNetOfText(item.Find("net").GetText());
     const BasePad* pad = FindPad(name);
     if (pad == nullptr)
         return;

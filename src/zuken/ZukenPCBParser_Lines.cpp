@@ -1,4 +1,3 @@
-#include "blocks/FuncRange.h"
 #include "model/ZukenPCBParser.h"
 #include "zuken/ArcItem.h"
 #include "zuken/LineBuilder.h"
@@ -17,9 +16,9 @@ void AddTo(LineBuilder& line, const PointItem& item) {
 } // namespace
 
 /// (line (penShape CIRCLE) (vertex (pt 4343068 9525000 (width 15000)) (pt 4643068 9825000) (arc ...)))
-bool ZukenPCBParser::ReadLine(const io::CBlock_func& block, Net* net, const AString& layerName) {
+bool ZukenPCBParser::ReadLine(io::FuncView block, Net* net, const AString& layerName) {
     LineBuilder line(traces, layerName, net);
-    for (io::CBlock_func& item : GetChild_G(block, "vertex").Funcs()) {
+    for (const io::FuncView item : block.Find("vertex").Funcs()) {
         if (item.NameIs("pt"))
             AddTo(line, PointItem(item, coordScale));
         else if (item.NameIs("arc"))

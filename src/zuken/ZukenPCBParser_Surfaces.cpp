@@ -1,4 +1,3 @@
-#include "blocks/FuncRange.h"
 #include "lib/math/geometry/Circle.h"
 #include "model/ZukenPCBParser.h"
 #include "zuken/ArcItem.h"
@@ -81,16 +80,16 @@ std::optional<geom::Circle> GetFullCircle(const ArcItem& arc) {
 ///       (vertex (pt 0 0) (pt 90000 0) (pt 90000 90000))
 ///       (openShape (outlineWidth 10000) (vertex ...)))
 bool ZukenPCBParser::ReadSurface(
-    const io::CBlock_func& block, Net* net, const AString& layerName, geom::Point origin, double angle, bool mirrored) {
+    io::FuncView block, Net* net, const AString& layerName, geom::Point origin, double angle, bool mirrored) {
     const geom::Transformation placement = GetPlacement_G(origin, angle, mirrored);
     Surface* current = nullptr;
-    for (const io::CBlock_func& item : block.Funcs()) {
+    for (const io::FuncView item : block.Funcs()) {
         geom::Polygon polygon;
         if (item.NameIs("vertex")) {
             ReadLoop(item, polygon);
             current = surfaces.Make(net, layerName, polygon.GetTransformed(placement));
         } else if (item.NameIs("openShape")) {
-            ReadLoop(GetChild_G(item, "vertex"), polygon);
+            ReadLoop(item.Find("vertex"), polygon);
             const double width = GetRealOf_G(item, "outlineWidth") * coordScale;
             if (current != nullptr)
                 current->AddVoid(polygon.GetTransformed(placement), width * 0.5);
@@ -102,9 +101,9 @@ bool ZukenPCBParser::ReadSurface(
 /// An outline that begins with a full circle is this circle; the rest of it is passed over.
 ///
 ///     (vertex (pt 2700000 1750000 (tarc (r 15000))) (arc CCW ...) (pt ...))
-bool ZukenPCBParser::ReadLoop(const io::CBlock_func& block, geom::Polygon& polygon) const {
+bool ZukenPCBParser::ReadLoop(io::FuncView block, geom::Polygon& polygon) const {
     LoopBuilder loop;
-    for (io::CBlock_func& item : block.Funcs()) {
+    for (const io::FuncView item : block.Funcs()) {
         if (item.NameIs("pt")) {
             loop.AddPoint(PointItem(item, coordScale));
         } else if (item.NameIs("arc")) {

@@ -1,4 +1,3 @@
-#include "blocks/FuncRange.h"
 #include "model/ZukenPCBParser.h"
 #include "zuken/ListValues.h"
 #include "zuken/Placement.h"
@@ -14,13 +13,11 @@ struct LayerSpan {
 };
 
 /// (fromTo 1 6)
-LayerSpan ReadLayerSpan(io::CBlock_func fromTo) {
+LayerSpan ReadLayerSpan(io::FuncView fromTo) {
     LayerSpan span;
-    bool isRead = false;
     fromTo >> span.from;
-    fromTo >> span.to >> io::Query_ok(isRead);
-    if (!isRead)
-        span.to = span.from;
+    span.to = span.from;
+    fromTo >> span.to;
     return span;
 }
 
@@ -36,7 +33,7 @@ bool IsDrawn(const Padstack* padstack) {
 } // namespace
 
 bool ZukenPCBParser::ReadPadstackLayer(const io::CBlock_func& layer, bool mirrorLayers, FootprintPin* pin) {
-    for (io::CBlock_func& item : layer.Funcs())
+    for (const io::FuncView item : io::FuncView(layer).Funcs())
         if (item.NameIs("padstack"))
             ReadPadstackInstance(item, mirrorLayers, pin);
     return true;
@@ -46,10 +43,10 @@ bool ZukenPCBParser::ReadPadstackLayer(const io::CBlock_func& layer, bool mirror
 ///
 ///     (padstack VIA60 (net GND) (pt 1450000 2018000) (angle 90) (fromTo 1 6)
 ///       (conductive (layerNumber 2 (STATUS NOCONNECT))))
-void ZukenPCBParser::ReadPadstackInstance(io::CBlock_func& item, bool mirrorLayers, const FootprintPin* pin) {
+void ZukenPCBParser::ReadPadstackInstance(io::FuncView item, bool mirrorLayers, const FootprintPin* pin) {
     AString name;
     item >> name;
-    Net* net = GetNet(GetTextOf_G(item, "net"));
+    Net* net = GetNetOfText(item.Find("net").GetText());
     const geom::Point location = GetPointOf_G(item, coordScale);
     const double angle = GetRealOf_G(item, "angle");
     Padstack* padstack = FindPadstack(name);
@@ -63,20 +60,20 @@ void ZukenPCBParser::ReadPadstackInstance(io::CBlock_func& item, bool mirrorLaye
     }
     if (pin != nullptr)
         return;
-    const LayerSpan span = ReadLayerSpan(GetChild_G(item, "fromTo"));
+    const LayerSpan span = ReadLayerSpan(item.Find("fromTo"));
     Via* via =
         vias.Make(padstack, GetConductiveLayerName(span.from), GetConductiveLayerName(span.to), location, angle, net);
     ReadNoConnectLayers(item, via->noConnectLayers);
 }
 
 /// (conductive (layerNumber 2 (STATUS NOCONNECT)) (layerNumber 3 (STATUS CONNECT)) (layerNumber 4))
-int ZukenPCBParser::ReadNoConnectLayers(const io::CBlock_func& item, std::vector<AString>& names) const {
-    for (io::CBlock_func& layerNumber : GetChild_G(item, "conductive").Funcs()) {
+int ZukenPCBParser::ReadNoConnectLayers(io::FuncView item, std::vector<AString>& names) const {
+    for (io::FuncView layerNumber : item.Find("conductive").Funcs()) {
         if (!layerNumber.NameIs("layerNumber"))
             continue;
         int number = 0;
         layerNumber >> number;
-        if (GetTextOf_G(layerNumber, "STATUS").CompareNoCase("NOCONNECT") == 0)
+        if (io::EqualsNoCase_G(layerNumber.Find("STATUS").GetText(), "NOCONNECT"))
             names.push_back(GetConductiveLayerName(number));
     }
     return static_cast<int>(names.size());

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <cstdint>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -91,6 +93,17 @@ TEST(AStringTest, AnIndexReachesOneUnit) {
                                "c");
     const AString& view = text;
     EXPECT_EQ(view[2], u'c');
+}
+
+TEST(AStringTest, ChangedUnitsCanTakeMoreBytes) {
+    AString text("ab");
+    text[0] = u'\u20AC';
+    EXPECT_EQ(text.GetNarrow(), "\xE2\x82\xAC"
+                                "b");
+    text[1] = u'\u20AC';
+    EXPECT_EQ(text.GetNarrow(), "\xE2\x82\xAC\xE2\x82\xAC");
+    text[0] = u'a';
+    EXPECT_EQ(text.GetNarrow(), "a\xE2\x82\xAC");
 }
 
 TEST(AStringTest, BytesThatAreNoUtf8BecomeLoneUnits) {
@@ -254,8 +267,41 @@ TEST(AStringTest, CompareNoCaseFoldsTheLettersAToZOnly) {
     // clang-format on
     for (const Row& row : rows) {
         EXPECT_EQ(AString(row.m_A).CompareNoCase(row.m_B), row.m_Order) << row.m_A << ' ' << row.m_B;
+        EXPECT_EQ(AString(row.m_A).CompareNoCase(AString(row.m_B)), row.m_Order) << row.m_A << ' ' << row.m_B;
         EXPECT_EQ(io::EqualsNoCase_G(row.m_A, row.m_B), row.m_Order == 0) << row.m_A << ' ' << row.m_B;
     }
+}
+
+TEST(AStringTest, EqualTextsHaveOneKey) {
+    const AString text = "Net-12\xC3\x84";
+    EXPECT_EQ(AString("Net-12\xC3\x84").GetKey(), text.GetKey());
+    EXPECT_NE(AString("nET-12\xC3\x84").GetKey(), text.GetKey());
+    EXPECT_EQ(AString("nET-12\xC3\x84").GetKeyNoCase(), text.GetKeyNoCase());
+    EXPECT_NE(AString("nET-12\xC3\xA4").GetKeyNoCase(), text.GetKeyNoCase()) << "only A to Z are folded";
+}
+
+TEST(AStringTest, SevenPlainCharactersAreAWholeKeyAndNoTwoOfThemHaveTheSame) {
+    const std::string_view texts[] = {
+        "", "a", "b", "ab", "ba", "aa", "1234567", "1234568", std::string_view("\0", 1), std::string_view("\0\0", 2),
+        std::string_view("\0a", 2), std::string_view("a\0", 2), std::string_view("\1", 1), "\x7F"};
+    std::set<uint64_t> keys;
+    for (const std::string_view text : texts) {
+        const uint64_t key = AString(text).GetKey();
+        EXPECT_TRUE(io::IsWholeKey_G(key)) << text;
+        EXPECT_TRUE(keys.insert(key).second) << text;
+        EXPECT_EQ(AString(text).GetKeyNoCase(), key) << text;
+    }
+    for (const char* text : {"12345678", "\xC3\xA4", "\xA4", "123456\xC3\xA4"})
+        EXPECT_FALSE(io::IsWholeKey_G(AString(text).GetKey())) << text;
+    EXPECT_EQ(AString("aBc").GetKeyNoCase(), AString("AbC").GetKeyNoCase());
+    EXPECT_NE(AString("aBc").GetKey(), AString("AbC").GetKey());
+}
+
+TEST(AStringTest, NarrowPlainTextHasTheKeyOfItsWideForm) {
+    for (const char* text : {"", "Gnd", "1234567", "12345678", "A_much_LONGER_name"})
+        EXPECT_EQ(io::KeyNoCase_G(text), std::optional(AString(text).GetKeyNoCase())) << text;
+    for (const char* text : {"\xC3\xA4", "GND\x80", "\xFF"})
+        EXPECT_EQ(io::KeyNoCase_G(text), std::nullopt) << "a character isn't one unit there";
 }
 
 TEST(AStringTest, NarrowAndWideAgreeOnEqualityButForCase) {

@@ -1,8 +1,11 @@
 #include "blocks/CBlock_open_func.h"
 
+#include "blocks/FuncRange.h"
 #include "tests/blocks/BlockText.h"
 
 #include <gtest/gtest.h>
+
+#include <string>
 
 namespace io {
 namespace {
@@ -30,6 +33,41 @@ TEST(CBlock_open_funcTest, FuncsNestToAnyDepthAndGoOnBehindEachOther) {
     }
     { CBlock_open_func next(block, "Next"); }
     EXPECT_EQ(TextOf(block), "B {\n\tOuter(1,\n\t\tInner(Innermost(2)),\n\t\t3)\n\tNext()\n}\n");
+}
+
+TEST(CBlock_open_funcTest, KeywordIsATextLikeAnyOther) {
+    static constexpr Keyword k_Short("Round");
+    static constexpr Keyword k_Longest("Exactly16Letters");
+    CBlock block("B");
+    {
+        CBlock_open_func func(block, "F");
+        func << k_Short << k_Longest << 1 << k_Short;
+    }
+    EXPECT_EQ(TextOf(block), "B {\n\tF(\"Round\", \"Exactly16Letters\", 1, \"Round\")\n}\n");
+    const CBlock copy = block;
+    std::string texts;
+    for (CBlock_func& func : copy.Funcs())
+        for (NodeIterator at = func.begin(); at != func.end(); ++at) {
+            AString text;
+            func.Item(at)->Query(text);
+            texts += text.QRL_ANSI() + ' ';
+        }
+    EXPECT_EQ(texts, "Round Exactly16Letters 1 Round ");
+}
+
+TEST(CBlock_open_funcTest, KeywordIsReadAndReplacedLikeAText) {
+    static constexpr Keyword k_Word("Word");
+    CBlock block("B");
+    {
+        CBlock_open_func func(block, "F");
+        func << k_Word << 5;
+    }
+    CBlock_func func = *block.Funcs().begin();
+    AString text;
+    int number = 0;
+    func >> text >> number;
+    EXPECT_EQ(text.QRL_ANSI(), "Word");
+    EXPECT_EQ(number, 5);
 }
 
 TEST(CBlock_open_funcTest, LongNamesAndTextsAreKept) {

@@ -81,7 +81,7 @@ TEST(CBlock_valueTest, EveryQueryReadsItsType) {
     EXPECT_TRUE(reads(0.0));
     bool truth = false;
     EXPECT_FALSE(value.Query(truth));
-    EXPECT_TRUE(CBlock_value(CToken::OfNode(Node::OfBool(true))).Query(truth));
+    EXPECT_TRUE(CBlock_value(CToken::OfNode(Node(NodeKind::k_Bool, true))).Query(truth));
     EXPECT_TRUE(truth);
 }
 

@@ -56,10 +56,10 @@ TEST(CTokenTest, GetAStringGivesTheSourceTextOfEveryKind) {
     EXPECT_EQ(CToken::OfWord("GND").GetAString().QRL_ANSI(), "GND");
     EXPECT_EQ(CToken::OfText("a b").GetAString().QRL_ANSI(), "a b");
     EXPECT_EQ(CToken::OfText("").GetAString().QRL_ANSI(), "");
-    EXPECT_EQ(CToken::OfNode(Node::OfInt(-3)).GetAString().QRL_ANSI(), "-3");
-    EXPECT_EQ(CToken::OfNode(Node::OfDouble(2.0)).GetAString().QRL_ANSI(), "2.0");
-    EXPECT_EQ(CToken::OfNode(Node::OfBool(true)).GetAString().QRL_ANSI(), "true");
-    EXPECT_EQ(CToken::OfNode(Node::OfBool(false)).GetAString().QRL_ANSI(), "false");
+    EXPECT_EQ(CToken::OfNode(Node(NodeKind::k_Int, -3)).GetAString().QRL_ANSI(), "-3");
+    EXPECT_EQ(CToken::OfNode(Node(NodeKind::k_Double, 2.0)).GetAString().QRL_ANSI(), "2.0");
+    EXPECT_EQ(CToken::OfNode(Node(NodeKind::k_Bool, true)).GetAString().QRL_ANSI(), "true");
+    EXPECT_EQ(CToken::OfNode(Node(NodeKind::k_Bool, false)).GetAString().QRL_ANSI(), "false");
 }
 
 TEST(CTokenTest, TextsOfEveryLengthAreKept) {
@@ -96,12 +96,12 @@ TEST(CTokenTest, EqualTokensHaveTheSameKindAndText) {
     EXPECT_EQ(CToken::OfWord("a"), CToken::OfWord("a"));
     EXPECT_EQ(CToken(), CToken());
     EXPECT_EQ(CToken::OfText(std::string(40, 'x')), CToken::OfText(std::string(40, 'x')));
-    EXPECT_EQ(CToken::OfNode(Node::OfInt(3)), CToken::OfNode(Node::OfInt(3)));
+    EXPECT_EQ(CToken::OfNode(Node(NodeKind::k_Int, 3)), CToken::OfNode(Node(NodeKind::k_Int, 3)));
     EXPECT_FALSE(CToken::OfWord("a") == CToken::OfWord("A"));
     EXPECT_FALSE(CToken::OfWord("a") == CToken::OfText("a"));
     EXPECT_FALSE(CToken::OfWord("1.5") == CToken::OfWord("1.50"));
     EXPECT_FALSE(CToken() == CToken::OfText(""));
-    EXPECT_FALSE(CToken::OfNode(Node::OfInt(3)) == CToken::OfNode(Node::OfDouble(3.0)));
+    EXPECT_FALSE(CToken::OfNode(Node(NodeKind::k_Int, 3)) == CToken::OfNode(Node(NodeKind::k_Double, 3.0)));
     EXPECT_FALSE(CToken::OfText(std::string(40, 'x')) == CToken::OfText(std::string(41, 'x')));
 }
 
@@ -120,8 +120,8 @@ TEST(NodeValueTest, AWholeNumberIsReadAsAnyTypeThatHoldsIt) {
     EXPECT_TRUE(CanRead(CToken::OfWord("9223372036854775807"), 9223372036854775807ULL));
     EXPECT_TRUE(CanRead(CToken::OfWord("007"), 7.0));
     EXPECT_TRUE(CanRead(CToken::OfWord("3"), 3.0F));
-    EXPECT_TRUE(CanRead(CToken::OfNode(Node::OfInt(-4)), -4L));
-    EXPECT_TRUE(CanRead(CToken::OfNode(Node::OfInt(-4)), -4.0));
+    EXPECT_TRUE(CanRead(CToken::OfNode(Node(NodeKind::k_Int, -4)), -4L));
+    EXPECT_TRUE(CanRead(CToken::OfNode(Node(NodeKind::k_Int, -4)), -4.0));
 }
 
 TEST(NodeValueTest, AnyOtherNumberIsReadAsADoubleOnly) {
@@ -131,8 +131,8 @@ TEST(NodeValueTest, AnyOtherNumberIsReadAsADoubleOnly) {
     EXPECT_TRUE(IsRefused(token, 5));
     EXPECT_TRUE(IsRefused(CToken::OfWord("2.0"), 5));
     EXPECT_TRUE(IsRefused<std::string_view>(token, "before"));
-    EXPECT_TRUE(CanRead(CToken::OfNode(Node::OfDouble(2.0)), 2.0));
-    EXPECT_TRUE(IsRefused(CToken::OfNode(Node::OfDouble(2.0)), 5));
+    EXPECT_TRUE(CanRead(CToken::OfNode(Node(NodeKind::k_Double, 2.0)), 2.0));
+    EXPECT_TRUE(IsRefused(CToken::OfNode(Node(NodeKind::k_Double, 2.0)), 5));
 }
 
 TEST(NodeValueTest, ANumberBeyondAFloatIsRefusedAsOne) {
@@ -151,12 +151,12 @@ TEST(NodeValueTest, AWordIsReadAsATextOnly) {
 }
 
 TEST(NodeValueTest, ATruthValueIsReadAsABoolOnly) {
-    const CToken token = CToken::OfNode(Node::OfBool(true));
+    const CToken token = CToken::OfNode(Node(NodeKind::k_Bool, true));
     EXPECT_TRUE(CanRead(token, true));
     EXPECT_TRUE(IsRefused(token, 5));
     EXPECT_TRUE(IsRefused(token, 5.0));
     EXPECT_TRUE(IsRefused<std::string_view>(token, "before"));
-    EXPECT_TRUE(IsRefused(CToken::OfNode(Node::OfInt(1)), false));
+    EXPECT_TRUE(IsRefused(CToken::OfNode(Node(NodeKind::k_Int, 1)), false));
 }
 
 TEST(NodeValueTest, MinusZeroKeepsItsSignWithAPointOnly) {

@@ -365,7 +365,7 @@ TEST(NeutralReaderTest, RandomDoublesTakeTheFewestDigitsAndKeepTheirBits) {
             i % 2 == 0 ? std::bit_cast<double>(random()) : static_cast<double>(random() % 1000000) / 1000;
         if (!std::isfinite(value))
             continue;
-        const std::string text = TextOf(CBlock_value(CToken::OfNode(Node::OfDouble(value))));
+        const std::string text = TextOf(CBlock_value(CToken::OfNode(Node(NodeKind::k_Double, value))));
         ASSERT_EQ(std::bit_cast<uint64_t>(std::strtod(text.c_str(), nullptr)), std::bit_cast<uint64_t>(value)) << text;
         const bool isWhole = text.find('e') == std::string::npos && text.ends_with(".0");
         if (value != 0.0 && (!isWhole || std::abs(value) < 0x1p53)) {
@@ -390,7 +390,7 @@ TEST(NeutralReaderTest, TreesAreReadOneBehindTheOther) {
     ASSERT_TRUE(reader.ReadTree().has_value());
     const std::optional<CToken> value = reader.ReadValue();
     ASSERT_TRUE(value.has_value());
-    EXPECT_EQ(*value, CToken::OfNode(Node::OfInt(7)));
+    EXPECT_EQ(*value, CToken::OfNode(Node(NodeKind::k_Int, 7)));
     EXPECT_EQ(reader.GetConsumed(), 20U) << "5 for the func, 8 for the named value, 6 for the block, 1 for the value";
 }
 

@@ -35,7 +35,7 @@ std::string NodesOf(const NodeList& nodes) {
     nodes.ExpectText(size_t{1} << 32);
     constexpr int k_Nodes = 1000000;
     for (int i = 0; i < k_Nodes; ++i)
-        nodes.Append(Node::OfInt(i));
+        nodes.Append(Node(NodeKind::k_Int, i));
     std::_Exit(nodes.GetEnd() - nodes.GetRoot() == k_Nodes + 1 && nodes.GetEnd()[-1].GetInt() == k_Nodes - 1 ? 0 : 1);
 }
 
@@ -105,10 +105,10 @@ TEST(NodeListTest, OpenNodesTakeWhatIsAppended) {
 
 TEST(NodeListTest, ValuesAreKept) {
     NodeList nodes(NodeKind::k_Func, "root");
-    nodes.Append(Node::OfInt(-2147483647 - 1));
-    nodes.Append(Node::OfDouble(-0.1));
-    nodes.Append(Node::OfBool(true));
-    nodes.Append(Node::OfBool(false));
+    nodes.Append(Node(NodeKind::k_Int, -2147483647 - 1));
+    nodes.Append(Node(NodeKind::k_Double, -0.1));
+    nodes.Append(Node(NodeKind::k_Bool, true));
+    nodes.Append(Node(NodeKind::k_Bool, false));
     nodes.AppendToken(CToken());
     const Node* at = nodes.GetRoot() + 1;
     EXPECT_EQ(at[0].GetInt(), -2147483647 - 1);
@@ -216,7 +216,7 @@ TEST(NodeListTest, AListThatGrowsLargeKeepsItsNodes) {
         NodeList nodes(NodeKind::k_Func, "root");
         nodes.ExpectText(expected);
         for (int i = 0; i < k_Count; ++i)
-            nodes.Append(Node::OfInt(i));
+            nodes.Append(Node(NodeKind::k_Int, i));
         nodes.ShrinkToFit();
         EXPECT_LT(nodes.GetMemory(), (k_Count + 10) * sizeof(Node));
         int wrong = 0;
@@ -231,7 +231,7 @@ TEST(NodeListTest, WhatIsExpectedOfASmallListTakesNoMemory) {
     NodeList nodes(NodeKind::k_Func, "root");
     nodes.ExpectText(size_t{1} << 40);
     for (int i = 0; i < 100; ++i)
-        nodes.Append(Node::OfInt(i));
+        nodes.Append(Node(NodeKind::k_Int, i));
     EXPECT_LT(nodes.GetMemory(), 300 * sizeof(Node));
 }
 

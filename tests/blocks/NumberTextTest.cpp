@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 
 namespace io {
@@ -42,6 +43,16 @@ TEST(NumberTextTest, WholeNumbersHaveNeitherPointNorExponentAndFit64Bits) {
         EXPECT_EQ(number.m_Whole, row.m_Value) << row.m_Text;
         EXPECT_EQ(number.m_Real, static_cast<double>(row.m_Value)) << row.m_Text;
     }
+}
+
+TEST(NumberTextTest, DigitsAloneAreUpTo18OfThem) {
+    EXPECT_EQ(ParseDigits_G("007"), std::optional<int64_t>(7));
+    EXPECT_EQ(ParseDigits_G("-12"), std::optional<int64_t>(-12));
+    EXPECT_EQ(ParseDigits_G("+12"), std::optional<int64_t>(12));
+    EXPECT_EQ(ParseDigits_G("-0"), std::optional<int64_t>(0));
+    EXPECT_EQ(ParseDigits_G("999999999999999999"), std::optional<int64_t>(999999999999999999));
+    for (const char* text : {"", "-", "+", "1.0", "1a", "a1", "1 ", "1/", "1:", "--1", "1000000000000000000"})
+        EXPECT_EQ(ParseDigits_G(text), std::nullopt) << text;
 }
 
 TEST(NumberTextTest, AllOtherNumbersAreReal) {

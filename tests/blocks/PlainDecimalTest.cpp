@@ -21,7 +21,7 @@ std::string LibraryText(double value) {
 
 /// The text of `value`, or that it was left to others.
 std::string TextOf(double value) {
-    char text[24];
+    char text[32];
     const char* end = io::TryPutDecimal(text, value);
     return end == nullptr ? "left" : std::string(static_cast<const char*>(text), end);
 }

@@ -44,6 +44,30 @@ TEST(ArcRingTest, NeighboursComeRound) {
     EXPECT_EQ(first, ring.GetNext(ring.GetPrevious(first)));
 }
 
+TEST(ArcRingTest, WalkFromTheFirstMeetsAsManyArcsAsThereAre) {
+    EXPECT_EQ(0U, ArcRing({}).GetSize());
+    EXPECT_EQ(ArcRing::k_None, ArcRing({}).GetFirst());
+    ArcRing ring({Piece(0, 1), Piece(1, 2), Piece(2, 0)});
+    const geom::Arc after = Piece(9, 2);
+    ring.ReplaceCorner(ring.FindByStart(geom::Point(1, 0)), Piece(0, 8), Piece(8, 9), &after);
+    EXPECT_EQ(4U, ring.GetSize());
+    std::vector<geom::Arc> met;
+    ArcRing::Index index = ring.GetFirst();
+    for (size_t i = 0; i < ring.GetSize(); ++i, index = ring.GetNext(index))
+        met.push_back(ring[index]);
+    EXPECT_THAT(met, ElementsAre(Piece(0, 8), Piece(8, 9), after, Piece(2, 0)));
+    EXPECT_EQ(ring.GetFirst(), index);
+}
+
+TEST(ArcRingTest, StartThatWasLeftCanComeBack) {
+    ArcRing ring({Piece(0, 1), Piece(1, 2), Piece(2, 0)});
+    ring.ReplaceCorner(ring.FindByStart(geom::Point(1, 0)), Piece(0, 8), Piece(8, 2), nullptr);
+    EXPECT_THAT(PositionsOf(ring, 1), IsEmpty());
+    ring.ReplaceCorner(ring.FindByStart(geom::Point(8, 0)), Piece(0, 1), Piece(1, 2), nullptr);
+    EXPECT_THAT(PositionsOf(ring, 1), ElementsAre(1));
+    EXPECT_THAT(PositionsOf(ring, 8), IsEmpty());
+}
+
 TEST(ArcRingTest, SingleArcIsItsOwnNeighbour) {
     ArcRing ring({Piece(0, 9)});
     const ArcRing::Index only = ring.FindByStart(geom::k_Origin);
