@@ -1,6 +1,9 @@
 #include "blocks/AString.h"
 
+#include "lib/utils/HashFactor.h"
+
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <cstdint>
 #include <limits>
@@ -98,11 +101,10 @@ int CompareNoCase_T(std::u16string_view units, Other other) {
     return (units.size() > other.size()) - (units.size() < other.size());
 }
 
-/// Seven plain characters and their number stand in the key itself; the upper bits of a hash are the better ones.
+/// Seven plain characters and their number stand in the key itself.
 template <class Text, class Change>
 uint64_t MakeKey_T(Text text, const Change& change) {
     constexpr uint64_t k_IsHash = uint64_t{1} << 63;
-    constexpr uint64_t k_Spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
     constexpr size_t k_Packed = 7;
     if (text.size() <= k_Packed && IsAscii_T(text)) {
         uint64_t key = text.size();
@@ -112,7 +114,7 @@ uint64_t MakeKey_T(Text text, const Change& change) {
     }
     uint64_t hash = text.size();
     for (const auto unit : text)
-        hash = (hash ^ static_cast<uint64_t>(change(unit))) * k_Spread;
+        hash = (std::rotl(hash, 32) ^ static_cast<uint64_t>(change(unit))) * base::k_HashFactor;
     return hash >> 1 | k_IsHash;
 }
 

@@ -4,8 +4,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -63,7 +63,7 @@ public:
 
     AString operator+(const AString& tail) const;
     bool operator==(const AString& other) const { return m_Text == other.m_Text || GetUnits() == other.GetUnits(); }
-    /// Unit by unit; the order of every ordered map and set of the model.
+    /// Unit by unit; the order of a net's pins.
     bool operator<(std::u16string_view other) const { return GetUnits() < other; }
     bool operator<(const AString& other) const { return GetUnits() < other.GetUnits(); }
 
@@ -169,9 +169,8 @@ constexpr bool IsWholeKey_G(uint64_t key) { return key >> 63 == 0; }
 std::optional<uint64_t> KeyNoCase_G(std::string_view narrow);
 
 /// Whether two narrow texts are equal when the letters A to Z are folded: what `AString::CompareNoCase` tells of their
-/// wide forms, without making them.
-/// `HasEqualLettersNoCase_G` is its part for texts of one size. Most texts that differ do so in their first letter, and
-/// most that are equal are so in their case too.
+/// wide forms, without making them. `HasEqualLettersNoCase_G` is its part for texts of one size. Most texts that differ
+/// do so in their first letter, and most that are equal are so in their case too.
 bool HasEqualLettersNoCase_G(std::string_view a, std::string_view b);
 inline bool EqualsNoCase_G(std::string_view a, std::string_view b) {
     constexpr int k_CaseBit = 'a' - 'A';

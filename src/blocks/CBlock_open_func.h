@@ -3,6 +3,8 @@
 
 #include "blocks/CBlock.h"
 
+#include <utility>
+
 namespace io {
 
 /// A func that is made where it stands, as the last item of a block or the last argument of another open func. Nothing
@@ -36,13 +38,14 @@ public:
         return *this;
     }
     CBlock_open_func& operator<<(const Keyword&& keyword) = delete;
-    /// The same as one `<<` for each of the values, which are truth values, numbers and keywords, in less time.
-    template <class... Values>
-    void AppendRow(const Values&... values) {
-        m_Nodes.AppendRow(values...);
-    }
     CBlock_open_func& operator<<(const char* text) { return *this << std::string_view(text); }
     CBlock_open_func& operator<<(const AString& text) { return *this << text.GetNarrow(); }
+
+    /// The same as one `<<` for each of the values, which are truth values, numbers and keywords, in less time.
+    template <class... Values>
+    void AppendRow(Values&&... values) {
+        m_Nodes.AppendRow(std::forward<Values>(values)...);
+    }
 
 private:
     CBlock_open_func(NodeList& nodes, std::string_view name) : m_Nodes(nodes) { m_Nodes.Open(NodeKind::k_Func, name); }

@@ -48,6 +48,7 @@ public:
     /// Reads the argument at the read position and moves on. Where it is of another kind or missing, both stay.
     FuncView& operator>>(int& value) { return ReadValue(value); }
     FuncView& operator>>(double& value) {
+        // Most numbers of a board are digits alone, and there are millions of them.
         const bool isWord = m_Next != m_End && m_Next->GetKind() == NodeKind::k_Word;
         const std::optional<int64_t> digits = isWord ? ParseDigits_G(m_Next->GetText()) : std::nullopt;
         if (!digits)
@@ -59,8 +60,7 @@ public:
     FuncView& operator>>(AString& value);
 
 private:
-    explicit FuncView(const TreeView& tree)
-        : m_Func(tree.GetRoot()), m_Next(tree.GetBegin()), m_End(tree.GetEnd()) {}
+    explicit FuncView(const TreeView& tree) : m_Func(tree.GetRoot()), m_Next(tree.GetBegin()), m_End(tree.GetEnd()) {}
     explicit FuncView(const Node& func) : m_Func(&func), m_Next(func.GetFirstChild()), m_End(func.GetNext()) {}
     /// The func that a node is or refers to; none for any other node.
     static FuncView OfNode(const Node& node);

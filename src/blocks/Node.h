@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+#include <type_traits>
 
 namespace io {
 
@@ -83,6 +84,7 @@ public:
     /// A value of a kind that has one: a number, a truth value, or what a reference leads to.
     template <class Value>
     Node(NodeKind kind, Value value) : m_Kind(kind) {
+        static_assert(sizeof(Value) <= sizeof(void*) && std::is_trivially_copyable_v<Value>);
         Store(k_ValueAt, value);
     }
 

@@ -52,11 +52,12 @@ public:
     void AppendValue(const Keyword& keyword) { NewNode(MakeRoom(1), keyword); }
     /// Appends values and keywords, of which each is one node.
     template <class... Values>
-    void AppendRow(const Values&... values) {
+    void AppendRow(Values&&... values) {
         Node* at = MakeRoom(sizeof...(values));
-        (NewNode(at++, values), ...);
+        (NewNode(at++, std::forward<Values>(values)), ...);
     }
-    /// Appends a word or text. Here, so that a text that is known when this is compiled costs no call.
+    /// Appends a word or text, which must not lie in this list. Here, so that a text that is known when this is
+    /// compiled costs no call.
     void AppendText(NodeKind kind, std::string_view text) {
         if (text.size() <= Node::k_ShortText)
             new (MakeRoom(1)) Node(kind, text, Node::k_ShortText);
@@ -76,7 +77,8 @@ public:
     /// Appends an object by reference and counts it. Null leaves a node that stands for nothing.
     void AppendReference(CStreamio_object* target);
 
-    /// Appends a func, block or named value without children; what is appended next goes into it, until `Close`.
+    /// Appends a func, block or named value without children, whose name must not lie in this list; what is appended
+    /// next goes into it, until `Close`.
     void Open(NodeKind kind, std::string_view name) {
         if (name.size() <= Node::k_ShortName)
             Open(new (MakeRoom(1)) Node(kind, name, Node::k_ShortName));
@@ -150,6 +152,7 @@ private:
     static void NewNode(Node* at, int value) { new (at) Node(NodeKind::k_Int, value); }
     static void NewNode(Node* at, double value) { new (at) Node(NodeKind::k_Double, value); }
     static void NewNode(Node* at, const Keyword& keyword) { new (at) Node(keyword); }
+    static void NewNode(Node* at, const Keyword&& keyword) = delete; ///< the tree would outlive it
     void OpenLong(NodeKind kind, std::string_view name);
     void AppendLongText(NodeKind kind, std::string_view text);
     void Reserve(size_t count);

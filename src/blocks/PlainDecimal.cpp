@@ -60,7 +60,8 @@ char* PutDecimal(char* to, Decimal decimal, uint32_t whole) {
     constexpr size_t k_Decimals = 18;
     constexpr uint64_t k_EightDigits = 100'000'000;
     const auto decimals = static_cast<size_t>(decimal.m_Decimals);
-    const uint64_t fraction = (decimal.m_Digits - whole * k_PowersOfTen[decimals]) * k_PowersOfTen[k_Decimals - decimals];
+    const uint64_t fraction =
+        (decimal.m_Digits - whole * k_PowersOfTen[decimals]) * k_PowersOfTen[k_Decimals - decimals];
     to = std::to_chars(to, to + k_RoomOfWhole, whole).ptr;
     *to++ = '.';
     PutDigits_T<2>(to, static_cast<uint32_t>(fraction / (k_EightDigits * k_EightDigits)));

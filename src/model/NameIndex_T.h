@@ -2,7 +2,9 @@
 #define QRL_MODEL_NAMEINDEX_T_H
 
 #include "blocks/AString.h"
+#include "lib/utils/HashFactor.h"
 
+#include <bit>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
@@ -34,9 +36,7 @@ public:
     Value* Find(const AString& name) { return const_cast<Value*>(std::as_const(*this).Find(name)); }
     const Value* Find(const AString& name) const { return FindUnder(Case::GetKey(name), name); }
     /// The same for a narrow name, of which no wide one is made when it is plain.
-    const Value* FindNarrow(std::string_view name) const
-        requires std::same_as<Case, CaseIgnored>
-    {
+    const Value* FindNarrow(std::string_view name) const requires std::same_as<Case, CaseIgnored> {
         const std::optional<uint64_t> key = io::KeyNoCase_G(name);
         return key ? FindUnder(*key, name) : Find(AString(name));
     }
@@ -81,10 +81,7 @@ private:
     }
 
     /// Where the search for a key begins.
-    size_t GetPlace(uint64_t key) const {
-        constexpr uint64_t k_Spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
-        return (key * k_Spread >> 32) & (m_Slots.size() - 1);
-    }
+    size_t GetPlace(uint64_t key) const { return key * base::k_HashFactor >> m_Shift; }
 
     template <class Name>
     bool Holds(const Slot& slot, uint64_t key, const Name& name) const {
@@ -103,6 +100,7 @@ private:
     void Grow() {
         std::vector<Slot> old(m_Slots.empty() ? k_FewestSlots : 2 * m_Slots.size());
         old.swap(m_Slots);
+        m_Shift = 64 - std::countr_zero(m_Slots.size());
         for (const Slot& slot : old) {
             size_t at = GetPlace(slot.m_Key);
             while (slot.m_Entry != k_Free && m_Slots[at].m_Entry != k_Free)
@@ -114,6 +112,7 @@ private:
 
     std::vector<Entry> m_Entries;
     std::vector<Slot> m_Slots; ///< a power of two
+    int m_Shift = 0;           ///< leaves as many upper bits of a product as there are slots for
 };
 
 #endif

@@ -5,6 +5,7 @@
 #include "model/Trace.h"
 #include "model/Via.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -32,7 +33,7 @@ geom::Box Net::ComputeBox() const {
     for (const Surface* surface : surfaces)
         box.Extend(surface->outline.polygon.GetBox());
     for (size_t i = 0; i < traces.size(); ++i) {
-        FetchTraceBehind(i);
+        PrefetchTracesAfter(i);
         for (const PathVertex& vertex : traces[i]->vertices)
             box.Extend(geom::Point(vertex.x, vertex.y));
     }
@@ -40,13 +41,13 @@ geom::Box Net::ComputeBox() const {
 }
 
 /// First the record, then the vertices that it leads to.
-void Net::FetchTraceBehind(size_t index) const {
+void Net::PrefetchTracesAfter(size_t index) const {
     constexpr size_t k_Ahead = 4;
     constexpr size_t k_Vertices = 8;
     if (index + 2 * k_Ahead >= traces.size())
         return;
     __builtin_prefetch(traces[index + 2 * k_Ahead]);
-    const PathVertex* vertices = traces[index + k_Ahead]->vertices.data();
-    for (size_t i = 0; i < k_Vertices; ++i)
-        __builtin_prefetch(vertices + i);
+    const auto& vertices = traces[index + k_Ahead]->vertices;
+    for (size_t i = 0; i < std::min(vertices.size(), k_Vertices); ++i)
+        __builtin_prefetch(&vertices[i]);
 }

@@ -35,7 +35,7 @@ public:
 
     /// For a walk over the traces, at `index` now. They lie all over memory, since the file is ordered by layers, so
     /// those that come next are asked for ahead of time.
-    void FetchTraceBehind(size_t index) const;
+    void PrefetchTracesAfter(size_t index) const;
 
     void AddVia(Via* via) { vias.push_back(via); }
     void AddSurface(Surface* surface) { surfaces.push_back(surface); }

@@ -81,6 +81,7 @@ public:
     /// The net of that name, which is made when there is none. An empty name stands for "ZUKEN_DUMMY". The first
     /// spelling that was met stays the net's name.
     Net* GetNet(const AString& name);
+    /// The same for a narrow name, of which no wide one is made where the net is known.
     Net* GetNetOfText(std::string_view name);
     /// Appends the outlines of a pad, about the pad's origin, and returns how many `out` then holds. A thermal pad is
     /// reported and has none.
@@ -211,8 +212,8 @@ public:
 
     /// Makes a surface of each outline, with its voids, all moved to `origin`, turned by `angle` degrees and, when
     /// `mirrored`, turned the other way and mirrored about the vertical line through `origin`. Always true.
-    bool ReadSurface(io::FuncView block, Net* net, const AString& layerName, geom::Point origin, double angle,
-        bool mirrored);
+    bool ReadSurface(
+        io::FuncView block, Net* net, const AString& layerName, geom::Point origin, double angle, bool mirrored);
     /// Reads a closed outline of points and arcs. Always true.
     bool ReadLoop(io::FuncView block, geom::Polygon& polygon) const;
 
@@ -272,8 +273,7 @@ private:
 
     void ReadConductiveItem(
         io::FuncView item, const AString& layerName, geom::Point origin, double angle, bool mirrored);
-    void ReadReference(
-        io::FuncView refer, const AString& layerName, geom::Point origin, double angle, bool mirrored);
+    void ReadReference(io::FuncView refer, const AString& layerName, geom::Point origin, double angle, bool mirrored);
     void ReadPlacedPad(io::FuncView item, const AString& layerName);
 
     // ZukenPCBParser_Vias.cpp

@@ -44,7 +44,7 @@ void ZukenConverter::WriteLayoutNetItem(const Net& net, size_t index, io::CBlock
         return;
     }
     index -= net.surfaces.size();
-    net.FetchTraceBehind(index);
+    net.PrefetchTracesAfter(index);
     WriteTraceGraphics(*net.traces[index], block);
 }
 

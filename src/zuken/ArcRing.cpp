@@ -1,5 +1,7 @@
 #include "zuken/ArcRing.h"
 
+#include "lib/utils/HashFactor.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstdint>
@@ -16,9 +18,8 @@ constexpr size_t k_FullNumerator = 3;
 constexpr size_t k_FullDenominator = 4;
 
 uint64_t Mix(uint64_t bits) {
-    constexpr uint64_t k_Spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
-    bits = (bits ^ bits >> 32) * k_Spread;
-    bits = (bits ^ bits >> 32) * k_Spread;
+    bits = (bits ^ bits >> 32) * base::k_HashFactor;
+    bits = (bits ^ bits >> 32) * base::k_HashFactor;
     return bits ^ bits >> 32;
 }
 

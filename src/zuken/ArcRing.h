@@ -2,7 +2,6 @@
 #define QRL_ZUKEN_ARCRING_H
 
 #include "lib/math/geometry/Arc.h"
-
 #include "lib/utils/Arena.h"
 
 #include <cstddef>
@@ -73,7 +72,7 @@ private:
     size_t FindSlot(geom::Point start, uint32_t hash) const;
     void MakeRoomForStarts(size_t count);
 
-    base::Arena m_Memory; ///< that others use when this is gone
+    base::Arena m_Memory; ///< goes back as a whole with the ring; a table that is outgrown stays until then
     std::pmr::vector<Node> m_Nodes{&m_Memory};
     Index m_First = k_None;
     /// A hash table with open addressing: a start stands in the slot of its hash or one of the next. A slot that is

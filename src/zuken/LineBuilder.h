@@ -33,7 +33,7 @@ public:
     void Finish();
 
 private:
-    static constexpr size_t k_UsualVertices = 16; ///< at most, of a line
+    static constexpr size_t k_UsualVertices = 16; ///< most lines have no more, and need no second piece of memory
 
     bool IsCutBy(double width) const;
     void AddVertex(geom::Point point, double height, double width);

@@ -58,6 +58,10 @@ geom::Point ReadPoint_G(io::FuncView list, double scale) {
     return {x * scale, y * scale};
 }
 
-geom::Point GetPointOf_G(io::FuncView list, double scale) {
-    return ReadPoint_G(list.Find("pt"), scale);
+geom::Point GetPointOf_G(io::FuncView list, double scale) { return ReadPoint_G(list.Find("pt"), scale); }
+
+io::FuncView GetSurfaceShape_G(io::FuncView refer) {
+    const io::FuncView surface = refer.Find("surface");
+    const io::FuncView shape = surface.Find("geometry").Find("surface");
+    return shape ? shape : surface;
 }

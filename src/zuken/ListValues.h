@@ -37,10 +37,15 @@ void ReadAnyText_G(const io::CBlock_func& list, AString& text);
 ///     (pin A1)  (pin 7)
 AString ReadPinName_G(io::CBlock_func& pin);
 
-/// The two numbers that `list` begins with, times `scale`; a coordinate that isn't there is 0.
+/// The two numbers at the read position of `list`, times `scale`; a coordinate that isn't there is 0.
 ///
 ///     (pt 1200 -50)
 geom::Point ReadPoint_G(io::FuncView list, double scale);
+
+/// The shape of a `refer`: what its surface's geometry holds, or without one that surface itself.
+///
+///     (refer (surface (geometry (surface (vertex ...)))))
+io::FuncView GetSurfaceShape_G(io::FuncView refer);
 
 /// The position that the child `pt` tells, times `scale`.
 geom::Point GetPointOf_G(io::FuncView list, double scale);

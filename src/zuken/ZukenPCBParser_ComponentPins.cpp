@@ -108,11 +108,7 @@ void ZukenPCBParser::ReadPinLayer(const io::CBlock_func& layer, const ComponentD
 void ZukenPCBParser::ReadPinSurface(
     const io::CBlock_func& refer, const AString& layerName, const ComponentDraft& draft) {
     Net* net = GetNet(GetTextOf_G(refer, "net"));
-    io::CBlock_func surface = GetChild_G(refer, "surface");
-    const io::CBlock_func geometry = GetChild_G(surface, "geometry");
-    // Without a geometry the outer surface is the shape.
-    geometry >> surface;
-    ReadSurface(surface, net, layerName, draft.location, draft.angle, draft.IsOnBottom());
+    ReadSurface(GetSurfaceShape_G(refer), net, layerName, draft.location, draft.angle, draft.IsOnBottom());
 }
 
 Layer* ZukenPCBParser::GetBondwireLayer(int32_t number) {

@@ -12,9 +12,7 @@ bool IsPadstackLayer(const io::CBlock_func& layer) {
 }
 
 /// What an item's `geometry` holds under `shapeName`; an empty list where there is none.
-io::FuncView GetShape(io::FuncView item, const char* shapeName) {
-    return item.Find("geometry").Find(shapeName);
-}
+io::FuncView GetShape(io::FuncView item, const char* shapeName) { return item.Find("geometry").Find(shapeName); }
 
 } // namespace
 
@@ -69,11 +67,8 @@ void ZukenPCBParser::ReadConductiveItem(
 /// (refer (surface (net GND) (geometry (surface (vertex ...)))))
 void ZukenPCBParser::ReadReference(
     io::FuncView refer, const AString& layerName, geom::Point origin, double angle, bool mirrored) {
-    const io::FuncView surface = refer.Find("surface");
-    Net* net = GetNetOfText(surface.Find("net").GetText());
-    const io::FuncView shape = GetShape(surface, "surface");
-    // Without a geometry the outer surface is the shape.
-    ReadSurface(shape ? shape : surface, net, layerName, origin, angle, mirrored);
+    Net* net = GetNetOfText(refer.Find("surface").Find("net").GetText());
+    ReadSurface(GetSurfaceShape_G(refer), net, layerName, origin, angle, mirrored);
 }
 
 /// A pad that stands on a layer by itself becomes a surface for each of its outlines.

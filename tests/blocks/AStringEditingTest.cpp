@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -70,6 +71,8 @@ TEST(AStringTest, FormatPutsTextsAndNumbersInPlace) {
     EXPECT_EQ(text.QRL_ANSI(), "x");
     text.Format(L"%d", -42);
     EXPECT_EQ(text.QRL_ANSI(), "-42");
+    text.Format(L"%d|%d", std::numeric_limits<long>::min(), std::numeric_limits<long>::max());
+    EXPECT_EQ(text.QRL_ANSI(), "-9223372036854775808|9223372036854775807");
     text.Format(L"%s_%d", AString("R\xC3\xA9").c_str(), 7);
     EXPECT_EQ(text.QRL_ANSI(), "R\xC3\xA9_7");
     text.Format(L"<%s|%s|%d>", AString(), AString("%d"), 2147483647L);

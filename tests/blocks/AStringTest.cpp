@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <cstdint>
 #include <optional>
+#include <random>
 #include <set>
 #include <string>
 #include <string_view>
@@ -281,9 +281,9 @@ TEST(AStringTest, EqualTextsHaveOneKey) {
 }
 
 TEST(AStringTest, SevenPlainCharactersAreAWholeKeyAndNoTwoOfThemHaveTheSame) {
-    const std::string_view texts[] = {
-        "", "a", "b", "ab", "ba", "aa", "1234567", "1234568", std::string_view("\0", 1), std::string_view("\0\0", 2),
-        std::string_view("\0a", 2), std::string_view("a\0", 2), std::string_view("\1", 1), "\x7F"};
+    const std::string_view texts[] = {"", "a", "b", "ab", "ba", "aa", "1234567", "1234568", std::string_view("\0", 1),
+        std::string_view("\0\0", 2), std::string_view("\0a", 2), std::string_view("a\0", 2), std::string_view("\1", 1),
+        "\x7F"};
     std::set<uint64_t> keys;
     for (const std::string_view text : texts) {
         const uint64_t key = AString(text).GetKey();

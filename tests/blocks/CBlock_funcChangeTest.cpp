@@ -57,8 +57,8 @@ TEST(CBlock_funcTest, ANullPointerLeavesAPlaceThatStandsForNothing) {
 
 TEST(CBlock_funcTest, AppendedTokensKeepTheirKind) {
     CBlock_func func("f");
-    func << CToken::OfWord("007") << CToken::OfText("007") << CToken::OfNode(Node(NodeKind::k_Int, 7)) << CToken::OfWord("w")
-         << CToken::OfWord("averyveryverylongword") << CToken::OfText("averyveryverylongtext");
+    func << CToken::OfWord("007") << CToken::OfText("007") << CToken::OfNode(Node(NodeKind::k_Int, 7))
+         << CToken::OfWord("w") << CToken::OfWord("averyveryverylongword") << CToken::OfText("averyveryverylongtext");
     EXPECT_EQ(Outline(func), "f(007 \"007\" 7 w averyveryverylongword \"averyveryverylongtext\")");
     AString text;
     AString word;

@@ -55,7 +55,7 @@ TEST(CBlock_open_funcTest, KeywordIsATextLikeAnyOther) {
     EXPECT_EQ(texts, "Round Exactly16Letters 1 Round ");
 }
 
-TEST(CBlock_open_funcTest, KeywordIsReadAndReplacedLikeAText) {
+TEST(CBlock_open_funcTest, KeywordIsReadLikeAText) {
     static constexpr Keyword k_Word("Word");
     CBlock block("B");
     {
@@ -68,6 +68,20 @@ TEST(CBlock_open_funcTest, KeywordIsReadAndReplacedLikeAText) {
     func >> text >> number;
     EXPECT_EQ(text.QRL_ANSI(), "Word");
     EXPECT_EQ(number, 5);
+}
+
+TEST(CBlock_open_funcTest, RowIsWhatItsValuesAreOneByOne) {
+    static constexpr Keyword k_Word("Word");
+    CBlock rows("B");
+    CBlock singles("B");
+    for (int i = 0; i < 100; ++i) {
+        CBlock_open_func row(rows, "F");
+        row.AppendRow(i, 0.5 * i, i % 2 == 0, k_Word);
+        CBlock_open_func single(singles, "F");
+        single << i << 0.5 * i << (i % 2 == 0) << k_Word;
+    }
+    EXPECT_EQ(TextOf(rows), TextOf(singles)) << "also where the memory grows";
+    EXPECT_EQ(TextOf(rows).substr(0, 31), "B {\n\tF(0, 0.0, true, \"Word\")\n\tF");
 }
 
 TEST(CBlock_open_funcTest, LongNamesAndTextsAreKept) {

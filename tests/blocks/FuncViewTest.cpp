@@ -113,7 +113,8 @@ TEST(FuncViewTest, FirstFuncOfANameIsFound) {
 }
 
 TEST(FuncViewTest, FuncsAreWalkedWhateverStandsBetweenThem) {
-    EXPECT_EQ("[1][2][0][3]", NumbersOf(FuncOf("(f 5 (a 1) word (b 2) \"a text that is too long for a node\" () (c 3))")));
+    EXPECT_EQ(
+        "[1][2][0][3]", NumbersOf(FuncOf("(f 5 (a 1) word (b 2) \"a text that is too long for a node\" () (c 3))")));
     EXPECT_EQ("", NumbersOf(FuncOf("(f 5 word)")));
 }
 

@@ -1,5 +1,6 @@
 #include "blocks/NeutralWriter.h"
 
+#include "blocks/CBlock_open_func.h"
 #include "tests/blocks/BlockText.h"
 
 #include <gtest/gtest.h>
@@ -276,6 +277,22 @@ TEST(NeutralWriterTest, TextsAroundTheSizeOfTheBufferComeOutWhole) {
         const std::string text(size, 'x');
         EXPECT_TRUE(TextOf(F("f", 1, CToken::OfText(text), 2)) == "f(1, \"" + text + "\", 2)\n") << size;
         EXPECT_TRUE(TextOf(F(text.c_str(), 2)) == text + "(2)\n") << size;
+    }
+}
+
+TEST(NeutralWriterTest, WhatIsCopiedWithItsPaddingComesOutWholeAtTheEndOfTheBuffer) {
+    constexpr size_t k_Buffer = 256 * 1024;
+    static constexpr Keyword k_Word("Word");
+    for (size_t distance = 0; distance < 48; ++distance) {
+        const std::string text(k_Buffer - distance, 'x');
+        CBlock block("B");
+        {
+            CBlock_open_func outer(block, "o");
+            outer << text;
+            CBlock_open_func func(outer, "n");
+            func << "t" << k_Word << 0.5;
+        }
+        EXPECT_TRUE(TextOf(block) == "B {\n\to(\"" + text + "\",\n\t\tn(\"t\", \"Word\", 0.5))\n}\n") << distance;
     }
 }
 

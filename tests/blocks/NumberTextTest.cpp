@@ -53,6 +53,7 @@ TEST(NumberTextTest, DigitsAloneAreUpTo18OfThem) {
     EXPECT_EQ(ParseDigits_G("999999999999999999"), std::optional<int64_t>(999999999999999999));
     for (const char* text : {"", "-", "+", "1.0", "1a", "a1", "1 ", "1/", "1:", "--1", "1000000000000000000"})
         EXPECT_EQ(ParseDigits_G(text), std::nullopt) << text;
+    EXPECT_EQ(ParseDigits_G(std::string_view("1234").substr(1, 2)), std::optional<int64_t>(23)) << "no more than given";
 }
 
 TEST(NumberTextTest, AllOtherNumbersAreReal) {

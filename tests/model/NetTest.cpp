@@ -6,6 +6,9 @@
 
 #include <gmock/gmock.h>
 
+#include <memory>
+#include <vector>
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -69,6 +72,18 @@ TEST(NetTest, BoxHoldsViasSurfacesAndVertices) {
     EXPECT_EQ(net.ComputeBox(), geom::Box(-1, 0, 5, 3));
     const Trace trace({VertexAt(2, 7), VertexAt(6, 1)}, "", &net);
     EXPECT_EQ(net.ComputeBox(), geom::Box(-1, 0, 6, 7));
+}
+
+TEST(NetTest, BoxHoldsTheTracesOfALongWalkAmongEmptyOnes) {
+    Net net("GND");
+    std::vector<std::unique_ptr<Trace>> traces;
+    for (int i = 0; i < 60; ++i) {
+        std::vector<PathVertex> vertices;
+        for (int j = 0; j < i % 12; ++j)
+            vertices.push_back(VertexAt(i, -j));
+        traces.push_back(std::make_unique<Trace>(vertices, "L1", &net));
+    }
+    EXPECT_EQ(geom::Box(1.0, -10.0, 59.0, 0.0), net.ComputeBox()) << "every twelfth trace has no vertex";
 }
 
 TEST(NetTest, BoxIgnoresWidthsAndHeightsOfTraces) {
