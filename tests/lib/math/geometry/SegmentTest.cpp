@@ -116,6 +116,13 @@ TEST(SegmentTest, NearestPointOfAPointOnTheSegmentIsThatPoint) {
     EXPECT_EQ(segment.GetNearestPoint(on), on);
 }
 
+TEST(SegmentTest, EndIsNearestToThePointsAcrossIt) {
+    // The vector (4.8, -1) to the end and (0.1, 0.48) from there on stand across each other.
+    const Segment segment({-2.2, -1.7}, {2.6, -2.7});
+    ASSERT_NE(segment.GetStart() + segment.GetVector(), segment.GetEnd()) << "a sum that is rounded";
+    EXPECT_EQ(segment.GetNearestPoint({2.7, -2.22}), segment.GetEnd());
+}
+
 TEST(SegmentTest, AFootThatRoundingBringsBesideTheSegmentIsReported) {
     // Seen from so far off, both ends and the length beyond the end drown in the rounding of the squares.
     const AssertionRecorder recorder;
