@@ -114,6 +114,8 @@ TEST(SegmentTest, NearestPointOfAPointOnTheSegmentIsThatPoint) {
     const Segment segment({0, 0}, {3 * (0.1 * 3), 3 * (0.1 * 4)});
     ASSERT_TRUE(segment.Contains(on, 0));
     EXPECT_EQ(segment.GetNearestPoint(on), on);
+    // Six of eleven steps of (9, 2).
+    EXPECT_EQ(Segment({-1, 0}, {98, 22}).GetNearestPoint({53, 12}), Point(53, 12));
 }
 
 TEST(SegmentTest, EndIsNearestToThePointsAcrossIt) {
