@@ -83,7 +83,6 @@ bool NeutralReader::ReadItem(NodeList& nodes) {
 bool NeutralReader::ReadArgument(NodeList& nodes) {
     if (!nodes.IsInnermostEmpty() && !Take(','))
         return false;
-    SkipBlanks();
     const size_t start = m_At;
     const std::optional<std::string> name = ReadName();
     if (name && Peek() == '(')

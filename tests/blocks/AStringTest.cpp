@@ -233,6 +233,16 @@ TEST(AStringTest, TheOrderGoesUnitByUnit) {
     EXPECT_EQ(NarrowOf({sorted.begin(), sorted.end()}), (std::vector<std::string>{"", "B", "a10", "a9", "b", "\xFF"}));
 }
 
+TEST(AStringTest, TextsAreEqualUnitByUnitWhoeverHoldsThem) {
+    const AString text("Layer");
+    const AString copy = text;
+    EXPECT_TRUE(text == copy);
+    EXPECT_TRUE(text == AString("Layer"));
+    EXPECT_FALSE(text == AString("layer"));
+    EXPECT_FALSE(text == AString());
+    EXPECT_TRUE(AString() == AString(""));
+}
+
 TEST(AStringTest, CompareMindsCase) {
     EXPECT_EQ(AString("Layer").Compare("Layer"), 0);
     EXPECT_LT(AString("Layer").Compare("layer"), 0);

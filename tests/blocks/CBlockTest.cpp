@@ -212,6 +212,7 @@ TEST(CBlockTest, TheMemoryOfTheTreeIsCountedOnDemand) {
     block << CBlock_func("f");
     EXPECT_EQ(block.SizeOf(false), sizeof(CBlock));
     EXPECT_GE(block.SizeOf(true), sizeof(CBlock) + 2 * sizeof(Node));
+    EXPECT_LT(block.SizeOf(true), sizeof(CBlock) + 100 * sizeof(Node)) << "little is set aside for growth";
 }
 
 TEST(CBlockTest, TheTextFormIsReadBack) {

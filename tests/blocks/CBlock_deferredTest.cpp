@@ -106,6 +106,8 @@ TEST(CBlock_deferredTest, ItHoldsNothingAndCannotBeRead) {
     EXPECT_EQ(block.Size(), 0);
     EXPECT_EQ(block.Name(), AString("Items"));
     EXPECT_FALSE(block.Unpack(AString("Items {\n}\n")));
+    TextIstream nothing("");
+    EXPECT_FALSE(block.read(nothing));
     block.Name("Other");
     block.Clear();
     EXPECT_EQ(TextOf(block), "Other {\n}\n");

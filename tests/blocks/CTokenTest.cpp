@@ -41,6 +41,13 @@ TEST(CTokenTest, ABareTextIsANumberWhereItReadsAsOne) {
         EXPECT_FALSE(CToken::OfWord(word).IsNumber()) << word;
 }
 
+TEST(CTokenTest, AFloatTakesAllThatItCanHold) {
+    constexpr double k_Most = std::numeric_limits<float>::max();
+    EXPECT_TRUE(CanRead(CToken::OfNode(Node::OfDouble(k_Most)), std::numeric_limits<float>::max()));
+    EXPECT_TRUE(CanRead(CToken::OfNode(Node::OfDouble(-k_Most)), -std::numeric_limits<float>::max()));
+    EXPECT_TRUE(IsRefused(CToken::OfNode(Node::OfDouble(std::nextafter(k_Most, 1e300))), 5.0F));
+}
+
 TEST(CTokenTest, AQuotedNumberIsAText) {
     const CToken token = CToken::OfText("7");
     EXPECT_FALSE(token.IsNumber());

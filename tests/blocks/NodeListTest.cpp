@@ -4,9 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <sys/resource.h>
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -195,6 +197,16 @@ TEST(NodeListTest, AnAppendedTreeGetsItsExtent) {
     nodes.AppendTree(part.GetRoot(), part.GetEnd());
     nodes.AppendText(NodeKind::k_Word, "y");
     EXPECT_EQ(NodesOf(nodes), "part2 x1 y1 ");
+}
+
+TEST(NodeListTest, ATreeOfMoreNodesThanAnIndexCountsIsRefused) {
+    // The bound is met before any node is looked at, so that none need be there.
+    const NodeList part(NodeKind::k_Func, "part");
+    const auto root = reinterpret_cast<uintptr_t>(part.GetRoot());
+    const auto* end = reinterpret_cast<const Node*>(root + (uintptr_t{1} << 32) * sizeof(Node));
+    NodeList nodes(NodeKind::k_Func, "root");
+    EXPECT_THROW(nodes.AppendTree(part.GetRoot(), end), std::length_error);
+    EXPECT_EQ(NodesOf(nodes), "");
 }
 
 TEST(NodeListTest, MemoryForGrowthCanBeGivenBack) {

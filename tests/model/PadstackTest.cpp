@@ -92,6 +92,13 @@ TEST_F(PadstackTest, ClearancesBeyondTheConnectingPadsAreCompared) {
     EXPECT_FALSE(first.IsEqual(Padstack("a", k_NoHole, {&m_Top}, {nullptr}, {})));
 }
 
+TEST_F(PadstackTest, NumberOfConnectingPadsMattersAlone) {
+    const Padstack one("a", k_NoHole, {&m_Top}, {}, {});
+    const Padstack two("a", k_NoHole, {&m_Top, &m_Bottom}, {}, {});
+    EXPECT_FALSE(one.IsEqual(two));
+    EXPECT_FALSE(two.IsEqual(one));
+}
+
 TEST_F(PadstackTest, IsEqualWhateverNameHoleAndThermalPads) {
     const Padstack first("a", k_NoHole, {&m_Top, nullptr}, {nullptr, nullptr}, {nullptr, nullptr});
     const Padstack second("b", m_Drill, {&m_Top, nullptr}, {nullptr, nullptr}, {&m_Top, nullptr});

@@ -110,6 +110,28 @@ TEST(ArcRingTest, ArcThatMovedToTheFrontIsFoundFirst) {
     EXPECT_THAT(PositionsOf(ring, 7), ElementsAre(0, 2));
 }
 
+TEST(ArcRingTest, MoreCornersThanAnnouncedAreReplacedAndFound) {
+    constexpr int k_Corners = 15;
+    std::vector<geom::Arc> arcs;
+    for (int i = 0; i <= k_Corners; ++i)
+        arcs.push_back(Piece(10 * i, 10 * i + 10));
+    ArcRing ring(arcs);
+    for (int i = 1; i <= k_Corners; ++i) {
+        const double corner = 10 * i;
+        const ArcRing::Index index = ring.FindByStart(geom::Point(corner, 0));
+        ASSERT_NE(ArcRing::k_None, index);
+        const geom::Arc before(ring[ring.GetPrevious(index)].GetStart(), geom::Point(corner - 1, 0), 0);
+        const geom::Arc after = Piece(corner + 1, corner + 10);
+        ring.ReplaceCorner(index, before, Piece(corner - 1, corner + 1), &after);
+    }
+    for (size_t i = 1; i <= k_Corners; ++i) {
+        const auto corner = 10 * static_cast<double>(i);
+        EXPECT_THAT(PositionsOf(ring, corner - 1), ElementsAre(2 * i - 1));
+        EXPECT_THAT(PositionsOf(ring, corner), IsEmpty());
+        EXPECT_THAT(PositionsOf(ring, corner + 1), ElementsAre(2 * i));
+    }
+}
+
 TEST(ArcRingTest, SamePlaceCanBeCutAgainAndAgain) {
     // Each time the arc that begins at 7 is replaced by two that begin there, so that orders run out of room.
     ArcRing ring({Piece(0, 7), Piece(7, 1), Piece(1, 0)});

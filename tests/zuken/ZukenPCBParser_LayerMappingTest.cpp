@@ -186,6 +186,7 @@ TEST(ZukenPCBParser_LayerMappingTest, TwoBondwireLayersMoveLayersAndPadsByTwo) {
     const Layer* first = mapping.Parser().GetBondwireLayer(1);
     const Layer* second = mapping.Parser().GetBondwireLayer(2);
     const Layer* conductive = LayersOf(mapping.Parser()).at(0);
+    EXPECT_EQ(0.0, first->thickness);
     mapping.Correspond();
     EXPECT_THAT(
         NamesOf_T(LayersOf(mapping.Parser())), ElementsAre("bondwire_1", "bondwire_2", "Conductive_1", "Conductive_2"));

@@ -139,6 +139,11 @@ TEST(ZukenPCBParser_SurfacesTest, WhatIsUnknownIsPassedOver) {
     EXPECT_THAT(Shapes("word 7 (hole (vertex (pt 0 0))) (VERTEX (PT 0 0) (PT 1 0) (PT 0 1))").Surfaces(), SizeIs(1));
 }
 
+TEST(ZukenPCBParser_SurfacesTest, WhatIsUnknownInAnOutlineIsPassedOver) {
+    EXPECT_THAT(CornersOf(Loop("(pt 0 0) (pt 2 0) (note (begin (pt 7 7)) (end (pt 9 9))) (pt 0 1)")),
+        ElementsAre(geom::Point(0, 0), geom::Point(2, 0), geom::Point(0, 1)));
+}
+
 TEST(ZukenPCBParser_SurfacesTest, ClockwiseOutlineIsTurnedRound) {
     EXPECT_THAT(CornersOf(Loop("(pt 0 0) (pt 0 10) (pt 10 10) (pt 10 0)")),
         ElementsAre(geom::Point(0, 0), geom::Point(10, 0), geom::Point(10, 10), geom::Point(0, 10)));

@@ -103,6 +103,7 @@ TEST(AngleTest, NormalisedLiesInTheTurnThatBeginsAtTheBase) {
     EXPECT_EQ(k_Angle_90.GetNormalised(k_Angle_0), k_Angle_90);
     EXPECT_DOUBLE_EQ(k_Angle_270.GetNormalised(-k_Angle_180).GetValue(k_Degrees), -90);
     EXPECT_DOUBLE_EQ(Angle(k_Degrees, 750).GetNormalised(k_Angle_360).GetValue(k_Degrees), 390);
+    EXPECT_DOUBLE_EQ(Angle(k_Degrees, 30).GetNormalised(k_Angle_90).GetValue(k_Degrees), 390);
 }
 
 TEST(AngleTest, ArithmeticIsThatOfTheRadians) {
@@ -125,6 +126,8 @@ TEST(AngleTest, ComparisonsHaveNoTolerance) {
     EXPECT_FALSE(k_Angle_1Radian >= above);
     EXPECT_TRUE(above != k_Angle_1Radian);
     EXPECT_TRUE(k_Angle_1Radian <= k_Angle_1Radian);
+    EXPECT_FALSE(k_Angle_1Radian < k_Angle_1Radian);
+    EXPECT_FALSE(k_Angle_1Radian > k_Angle_1Radian);
     EXPECT_TRUE(Angle(k_Radians, fixtures::k_NaN) <= above);
     EXPECT_TRUE(Angle(k_Radians, fixtures::k_NaN) >= above);
 }

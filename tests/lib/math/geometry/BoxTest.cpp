@@ -442,6 +442,17 @@ TEST(BoxTest, ASegmentThatMissesByRoundingAloneIsBeyondTheSide) {
     EXPECT_FALSE(BoxOf("0,0 1,10").IntersectsSegment({{s, 5}, {2, 6}}, (s - 1) / 2));
 }
 
+TEST(BoxTest, ASegmentThatOnlyTouchesACornerByAnEndMeetsTheBox) {
+    for (int i = 1; i < 100; ++i) {
+        // From the upper right corner to the lower right, so out of the box at once.
+        const Point corner(0.1 * i, 0.7);
+        const Segment segment(corner, corner + Vector(3, -0.01 * i));
+        const Box box(0, 0, corner.GetX(), corner.GetY());
+        EXPECT_TRUE(box.IntersectsSegment(segment, 0)) << i;
+        EXPECT_TRUE(box.IntersectsSegment(segment.GetReversed(), 0)) << i;
+    }
+}
+
 TEST(BoxTest, APointLikeSegmentMeetsABoxAsAPoint) {
     EXPECT_TRUE(k_SquareBox.IntersectsSegment(SegmentOf("10,10 10,10"), 0));
     EXPECT_FALSE(k_SquareBox.IntersectsSegment(SegmentOf("11,10 11,10"), 0));

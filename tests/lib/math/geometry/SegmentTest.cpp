@@ -114,6 +114,15 @@ TEST(SegmentTest, NearestPointOfAPointOnTheSegmentIsThatPoint) {
     const Segment segment({0, 0}, {3 * (0.1 * 3), 3 * (0.1 * 4)});
     ASSERT_TRUE(segment.Contains(on, 0));
     EXPECT_EQ(segment.GetNearestPoint(on), on);
+    // Six of eleven steps of (9, 2).
+    EXPECT_EQ(Segment({-1, 0}, {98, 22}).GetNearestPoint({53, 12}), Point(53, 12));
+}
+
+TEST(SegmentTest, EndIsNearestToThePointsAcrossIt) {
+    // The vector (4.8, -1) to the end and (0.1, 0.48) from there on stand across each other.
+    const Segment segment({-2.2, -1.7}, {2.6, -2.7});
+    ASSERT_NE(segment.GetStart() + segment.GetVector(), segment.GetEnd()) << "a sum that is rounded";
+    EXPECT_EQ(segment.GetNearestPoint({2.7, -2.22}), segment.GetEnd());
 }
 
 TEST(SegmentTest, AFootThatRoundingBringsBesideTheSegmentIsReported) {
