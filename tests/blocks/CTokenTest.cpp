@@ -43,9 +43,9 @@ TEST(CTokenTest, ABareTextIsANumberWhereItReadsAsOne) {
 
 TEST(CTokenTest, AFloatTakesAllThatItCanHold) {
     constexpr double k_Most = std::numeric_limits<float>::max();
-    EXPECT_TRUE(CanRead(CToken::OfNode(Node::OfDouble(k_Most)), std::numeric_limits<float>::max()));
-    EXPECT_TRUE(CanRead(CToken::OfNode(Node::OfDouble(-k_Most)), -std::numeric_limits<float>::max()));
-    EXPECT_TRUE(IsRefused(CToken::OfNode(Node::OfDouble(std::nextafter(k_Most, 1e300))), 5.0F));
+    EXPECT_TRUE(CanRead(CToken::OfNode(Node(NodeKind::k_Double, k_Most)), std::numeric_limits<float>::max()));
+    EXPECT_TRUE(CanRead(CToken::OfNode(Node(NodeKind::k_Double, -k_Most)), -std::numeric_limits<float>::max()));
+    EXPECT_TRUE(IsRefused(CToken::OfNode(Node(NodeKind::k_Double, std::nextafter(k_Most, 1e300))), 5.0F));
 }
 
 TEST(CTokenTest, AQuotedNumberIsAText) {
