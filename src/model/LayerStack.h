@@ -1,6 +1,7 @@
 #ifndef QRL_MODEL_LAYERSTACK_H
 #define QRL_MODEL_LAYERSTACK_H
 
+#include "lib/utils/HashFactor.h"
 #include "model/Layer.h"
 
 #include <cstddef>
@@ -41,7 +42,7 @@ public:
 
 private:
     std::vector<Layer*> m_Layers;
-    std::unordered_map<int32_t, Layer*> m_FirstByNumber;
+    std::unordered_map<int32_t, Layer*, base::NumberHash> m_FirstByNumber;
     std::unordered_map<const Layer*, int> m_Positions;
     Layer* m_Top = nullptr;
     Layer* m_Bottom = nullptr;

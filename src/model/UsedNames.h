@@ -1,6 +1,7 @@
 #ifndef QRL_MODEL_USEDNAMES_H
 #define QRL_MODEL_USEDNAMES_H
 
+#include "lib/utils/HashFactor.h"
 #include "model/NameIndex_T.h"
 
 #include <cstdint>
@@ -18,7 +19,7 @@ public:
 
 private:
     /// A number that is taken, to one from which to search on.
-    using Onward = std::unordered_map<int32_t, int32_t>;
+    using Onward = std::unordered_map<int32_t, int32_t, base::NumberHash>;
 
     struct Nothing {};
 

@@ -1,4 +1,5 @@
 #include "blocks/FuncRange.h"
+#include "lib/utils/HashFactor.h"
 #include "model/ZukenPCBParser.h"
 #include "zuken/ListValues.h"
 
@@ -55,7 +56,7 @@ private:
     RecordPool_T<PadstackLayerPad>& m_LayerPads;
     size_t m_LayerCount;
     size_t m_BondwireCount;
-    std::unordered_map<int32_t, const FPLayer*> m_LayerByNumber;
+    std::unordered_map<int32_t, const FPLayer*, base::NumberHash> m_LayerByNumber;
 };
 
 } // namespace

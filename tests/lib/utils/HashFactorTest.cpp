@@ -26,5 +26,14 @@ TEST(HashFactorTest, KeysThatFallTogetherUnderOneFactorAreSpread) {
     EXPECT_GT(places.size(), 100U);
 }
 
+TEST(NumberHashTest, NumbersWithOneRemainderAreSpread) {
+    // A container of the standard library with some ten thousand entries has 13,597 places for them, for instance.
+    constexpr int k_Places = 13597;
+    std::set<size_t> places;
+    for (int i = -500; i < 500; ++i)
+        places.insert(NumberHash()(i * k_Places) % k_Places);
+    EXPECT_GT(places.size(), 100U);
+}
+
 } // namespace
 } // namespace base
