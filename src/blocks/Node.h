@@ -56,7 +56,9 @@ public:
         return {reinterpret_cast<const char*>(this + 1) + sizeof(uint64_t), GetLongSize()};
     }
     /// What the text is, when it is a keyword; else null.
-    const Keyword* GetKeyword() const { return m_TextSize == k_IsKeyword ? Load<const Keyword*>(k_ValueAt) : nullptr; }
+    const Keyword* GetKeyword() const {
+        return m_TextSize == k_IsKeyword ? static_cast<const Keyword*>(Load<const void*>(k_ValueAt)) : nullptr;
+    }
 
     int GetInt() const { return Load<int32_t>(k_ValueAt); }
     double GetDouble() const { return Load<double>(k_ValueAt); }
@@ -90,7 +92,7 @@ public:
 
     /// A text that is a keyword.
     explicit Node(const Keyword& keyword) : m_Kind(NodeKind::k_Text), m_TextSize(k_IsKeyword) {
-        Store(k_ValueAt, &keyword);
+        Store(k_ValueAt, static_cast<const void*>(&keyword));
     }
 
     /// A node of `kind` whose text is `text` when that is at most `room` bytes long; otherwise its text is to be put

@@ -57,7 +57,7 @@ void NodeList::AppendTree(const Node* root, const Node* end) {
 }
 
 void NodeList::AppendReference(CStreamio_object* target) {
-    Append(Node(NodeKind::k_Reference, target));
+    Append(Node(NodeKind::k_Reference, static_cast<void*>(target)));
     const Node* added = GetEnd() - 1;
     CountReferences(added, added + 1);
 }

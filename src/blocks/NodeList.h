@@ -5,6 +5,7 @@
 
 #include <new>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 namespace io {
@@ -53,6 +54,8 @@ public:
     /// Appends values and keywords, of which each is one node.
     template <class... Values>
     void AppendRow(Values&&... values) {
+        static_assert(((!std::is_same_v<Values, Keyword> && !std::is_same_v<Values, const Keyword>)&&...),
+            "the tree would outlive a keyword that is made for the call");
         Node* at = MakeRoom(sizeof...(values));
         (NewNode(at++, std::forward<Values>(values)), ...);
     }
@@ -152,7 +155,6 @@ private:
     static void NewNode(Node* at, int value) { new (at) Node(NodeKind::k_Int, value); }
     static void NewNode(Node* at, double value) { new (at) Node(NodeKind::k_Double, value); }
     static void NewNode(Node* at, const Keyword& keyword) { new (at) Node(keyword); }
-    static void NewNode(Node* at, const Keyword&& keyword) = delete; ///< the tree would outlive it
     void OpenLong(NodeKind kind, std::string_view name);
     void AppendLongText(NodeKind kind, std::string_view text);
     void Reserve(size_t count);

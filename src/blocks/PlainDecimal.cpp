@@ -50,7 +50,7 @@ constexpr auto k_Pairs = [] {
 template <size_t digits>
 void PutDigits_T(char* to, uint32_t value) {
     for (size_t at = digits; at != 0; at -= 2) {
-        std::memcpy(to + at - 2, &k_Pairs[value % 100 * 2], 2);
+        std::memcpy(to + at - 2, &k_Pairs[size_t{2} * (value % 100)], 2);
         value /= 100;
     }
 }

@@ -9,7 +9,9 @@ namespace {
 uint64_t GetRandom() {
     uint64_t random = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio, where it has none
     if (const unsigned long address = getauxval(AT_RANDOM); address != 0)
-        std::memcpy(&random, reinterpret_cast<const void*>(address), sizeof random);
+        // The system tells the address as a number.
+        std::memcpy(
+            &random, reinterpret_cast<const void*>(address), sizeof random); // NOLINT(performance-no-int-to-ptr)
     return random;
 }
 
