@@ -182,9 +182,10 @@ class LinkFaultTest(FaultCase):
         self.for_every_fault(("EIO", "EACCES", "ENOMEM"), check)
 
     def test_an_old_output_that_cannot_be_looked_at_stays(self):
+        number = next(number for name, number, text in self.calls(OLD).output if name == "newfstatat")
+
         def check(folder, error):
             self.lay(folder, OLD)
-            number = next(number for name, number, text in self.calls(OLD).output if name == "newfstatat")
             prefix = ["strace", "-o", os.devnull, "-e", f"inject=newfstatat:error={error}:when={number}", "--"]
             result = self.run_in(folder, prefix, env=traced_environment())
             told = b"board.qrl: " + REASONS[error] + b"\n"
