@@ -284,8 +284,7 @@ void AString::Trim() {
 }
 
 /// Walks text and pattern together. On a mismatch it goes back to the last `*` and lets that take one unit more. An
-/// earlier
-/// `*` never has to be tried again, as the last one can take over whatever it would have taken.
+/// earlier `*` never has to be tried again, as the last one can take over whatever it would have taken.
 bool AString::Match(const AString& pattern) const {
     const std::u16string_view mask = pattern.GetUnits();
     size_t at = 0;
@@ -377,6 +376,5 @@ std::optional<uint64_t> io::KeyNoCase_G(std::string_view narrow) {
 }
 
 bool io::HasEqualLettersNoCase_G(std::string_view a, std::string_view b) {
-    return a == b ||
-           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return FoldNarrow(x) == FoldNarrow(y); });
+    return std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return FoldNarrow(x) == FoldNarrow(y); });
 }
