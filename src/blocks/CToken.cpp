@@ -50,7 +50,7 @@ bool NodeValue::Query(bool& value) const {
     return true;
 }
 
-bool NodeValue::Query(double& value) const {
+bool NodeValue::QueryReal(double& value) const {
     switch (m_Node.GetKind()) {
     case NodeKind::k_Double:
         value = m_Node.GetDouble();
@@ -59,10 +59,6 @@ bool NodeValue::Query(double& value) const {
         value = m_Node.GetInt();
         return true;
     case NodeKind::k_Word: {
-        if (const std::optional<int64_t> whole = ParseDigits_G(m_Text)) {
-            value = static_cast<double>(*whole);
-            return true;
-        }
         const NumberText number = ParseNumber_G(m_Text);
         if (number.m_Kind == NumberText::Kind::k_None)
             return false;

@@ -6,6 +6,8 @@
 #include "blocks/NumberText.h"
 
 #include <concepts>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -62,7 +64,15 @@ public:
 
     std::string_view GetText() const { return m_Text; }
     bool Query(bool& value) const;
-    bool Query(double& value) const;
+    /// Most numbers of a board are digits alone, and there are millions of them: those cost no call.
+    bool Query(double& value) const {
+        const bool isWord = m_Node.GetKind() == NodeKind::k_Word;
+        const std::optional<int64_t> digits = isWord ? ParseDigits_G(m_Text) : std::nullopt;
+        if (!digits)
+            return QueryReal(value);
+        value = static_cast<double>(*digits);
+        return true;
+    }
     bool Query(float& value) const;
     bool Query(std::string_view& value) const;
 
@@ -80,6 +90,7 @@ public:
     }
 
 private:
+    bool QueryReal(double& value) const;
     bool QueryWhole(int64_t& value) const;
 
     const Node& m_Node;

@@ -3,11 +3,8 @@
 
 #include "blocks/CBlock_func.h"
 #include "blocks/CToken.h"
-#include "blocks/NumberText.h"
 
-#include <cstdint>
 #include <iterator>
-#include <optional>
 #include <string_view>
 
 namespace io {
@@ -47,16 +44,7 @@ public:
 
     /// Reads the argument at the read position and moves on. Where it is of another kind or missing, both stay.
     FuncView& operator>>(int& value) { return ReadValue(value); }
-    FuncView& operator>>(double& value) {
-        // Most numbers of a board are digits alone, and there are millions of them.
-        const bool isWord = m_Next != m_End && m_Next->GetKind() == NodeKind::k_Word;
-        const std::optional<int64_t> digits = isWord ? ParseDigits_G(m_Next->GetText()) : std::nullopt;
-        if (!digits)
-            return ReadValue(value);
-        value = static_cast<double>(*digits);
-        m_Next = m_Next->GetNext();
-        return *this;
-    }
+    FuncView& operator>>(double& value) { return ReadValue(value); }
     FuncView& operator>>(AString& value);
 
 private:
