@@ -2,11 +2,7 @@
 
 #include "zuken/ListValues.h"
 
-PointItem::PointItem(io::FuncView list, double scale) {
-    double x = 0.0;
-    double y = 0.0;
-    list >> x >> y;
-    point = geom::Point(x * scale, y * scale);
+PointItem::PointItem(io::FuncView list, double scale) : point(ReadPoint_G(list, scale)) {
     for (io::FuncView detail : list.Funcs()) {
         if (!cornerRadius && detail.NameIs("tarc")) {
             cornerRadius = GetRealOf_G(detail, "r") * scale;
