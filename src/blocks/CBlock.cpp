@@ -83,7 +83,7 @@ bool CBlock::read(CAbstract_istream& stream) {
 void CBlock::write(CAbstract_ostream& stream) const { NeutralWriter(stream).Write(m_Tree); }
 
 void CBlock::Name(const AString& name) {
-    m_Tree.SetName(name.QRL_ANSI());
+    m_Tree.SetName(name.GetNarrow());
     m_NameToken.reset();
 }
 

@@ -17,7 +17,7 @@ public:
     CBlock() : CBlock("") {}
     explicit CBlock(std::string_view name) : CBlock(TreeView(NodeKind::k_Block, name)) {}
     explicit CBlock(const char* name) : CBlock(std::string_view(name)) {}
-    explicit CBlock(const AString& name) : CBlock(std::string_view(name.QRL_ANSI())) {}
+    explicit CBlock(const AString& name) : CBlock(name.GetNarrow()) {}
     /// The block that `tree` stands for.
     explicit CBlock(const TreeView& tree) : m_Tree(tree) {}
     CBlock(const CBlock& other) : CBlock(other.m_Tree) {}

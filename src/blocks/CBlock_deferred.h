@@ -31,7 +31,7 @@ public:
     bool read(CAbstract_istream& /*stream*/) override { return false; }
     void write(CAbstract_ostream& stream) const override;
     AString Name() const override { return m_Name.GetAString(); }
-    void Name(const AString& name) override { m_Name = CToken::OfText(name.QRL_ANSI()); }
+    void Name(const AString& name) override { m_Name = CToken::OfText(name.GetNarrow()); }
     const CToken& NameToken() const override { return m_Name; }
     int Size() const override { return 0; }
     void Clear() override { m_Count = 0; }

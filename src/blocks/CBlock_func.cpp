@@ -145,7 +145,7 @@ bool CBlock_func::read(CAbstract_istream& stream) {
 void CBlock_func::write(CAbstract_ostream& stream) const { NeutralWriter(stream).Write(m_Tree); }
 
 void CBlock_func::Name(const AString& name) {
-    m_Tree.SetName(name.QRL_ANSI());
+    m_Tree.SetName(name.GetNarrow());
     m_NameToken.reset();
 }
 

@@ -33,7 +33,7 @@ class CBlock_func : public CBlock_func_arg {
 public:
     explicit CBlock_func(std::string_view name) : CBlock_func(TreeView(NodeKind::k_Func, name)) {}
     explicit CBlock_func(const char* name) : CBlock_func(std::string_view(name)) {}
-    explicit CBlock_func(const AString& name) : CBlock_func(std::string_view(name.QRL_ANSI())) {}
+    explicit CBlock_func(const AString& name) : CBlock_func(name.GetNarrow()) {}
     /// The func that `tree` stands for. Reading starts at its first argument.
     explicit CBlock_func(const TreeView& tree) : m_Tree(tree) {}
     CBlock_func(const CBlock_func& other);

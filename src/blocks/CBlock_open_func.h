@@ -18,7 +18,7 @@ namespace io {
 class CBlock_open_func {
 public:
     CBlock_open_func(CBlock& block, std::string_view name) : CBlock_open_func(block.Change(), name) {}
-    CBlock_open_func(CBlock& block, const AString& name) : CBlock_open_func(block, name.QRL_ANSI()) {}
+    CBlock_open_func(CBlock& block, const AString& name) : CBlock_open_func(block, name.GetNarrow()) {}
     CBlock_open_func(CBlock& block, const char* name) : CBlock_open_func(block, std::string_view(name)) {}
     CBlock_open_func(CBlock_open_func& func, std::string_view name) : CBlock_open_func(func.m_Nodes, name) {}
     CBlock_open_func(const CBlock_open_func&) = delete;

@@ -9,7 +9,7 @@ namespace io {
 class CBlock_value : public CBlock_func_arg {
 public:
     CBlock_value() = default;
-    explicit CBlock_value(const AString& text) : m_Token(CToken::OfText(text.QRL_ANSI())) {}
+    explicit CBlock_value(const AString& text) : m_Token(CToken::OfText(text.GetNarrow())) {}
     explicit CBlock_value(CToken token) : m_Token(std::move(token)) {}
 
     const CToken& GetToken() const { return m_Token; }

@@ -28,7 +28,7 @@ bool ZukenConverter::WriteComponents(const Components& components, io::CBlock& r
 bool ZukenConverter::WriteComponentDef(const Component& component, io::CBlock& block) {
     if (component.footprint == nullptr)
         return false;
-    io::CBlock definition(component.id.GetNarrow());
+    io::CBlock definition(component.id);
     WriteCompDef(component, definition);
     for (const FootprintPin* pin : component.footprint->pins)
         WriteTerminal(pin->name, definition);

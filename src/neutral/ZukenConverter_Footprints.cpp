@@ -33,7 +33,7 @@ bool ZukenConverter::WriteFootprint(const Footprint& footprint, io::CBlock& bloc
         if (pin.padstack != nullptr)
             items << MakePinDef(pin);
     };
-    io::CBlock footprintBlock(footprint.name.GetNarrow());
+    io::CBlock footprintBlock(footprint.name);
     footprintBlock << io::CBlockDeferredPtr(new io::CBlock_deferred(keyword::k_FpPins, footprint.pins.size(), write));
     block << footprintBlock;
     return true;

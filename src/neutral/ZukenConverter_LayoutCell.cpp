@@ -10,7 +10,7 @@ namespace {
 
 /// name("type"): how a component or net stands in the netlist.
 void WriteEntry(const AString& name, std::string_view text, io::CBlock& block) {
-    io::CBlock_open_func func(block, name.GetNarrow());
+    io::CBlock_open_func func(block, name);
     func << text;
 }
 
